@@ -1,0 +1,70 @@
+#include "l10n/Fmt.h"
+
+#include "app/Settings.h"
+
+#include <array>
+#include <charconv>
+#include <cmath>
+
+namespace Fmt {
+
+QString fixed(double v, int decimals)
+{
+    if (!std::isfinite(v))
+        v = 0;
+    decimals = std::clamp(decimals, 0, 17);
+    // to_chars is locale-independent and rounds exactly like printf.
+    std::array<char, 400> buf{};
+    const auto res = std::to_chars(buf.data(), buf.data() + buf.size(), v, std::chars_format::fixed, decimals);
+    if (res.ec != std::errc())
+        return QStringLiteral("0");
+    return QString::fromLatin1(buf.data(), int(res.ptr - buf.data()));
+}
+
+QString bytes(double v, int decimals)
+{
+    static const char *const units[] = {"B", "KB", "MB", "GB", "TB", "PB"};
+    if (!std::isfinite(v))
+        v = 0;
+    int unit = 0;
+    double scaled = v;
+    if (v >= 1000) {
+        scaled = v / 1000;
+        unit = 1;
+        while (scaled >= 1000 && unit < 5) {
+            scaled /= 1000;
+            ++unit;
+        }
+    }
+    return fixed(scaled, decimals) + u' ' + QLatin1String(units[unit]);
+}
+
+QString percent(double v, int decimals)
+{
+    return fixed(v * 100, decimals) + u'%';
+}
+
+QString watts(double v)
+{
+    if (v < 1.0)
+        return fixed(v * 1000, 0) + QStringLiteral(" mW");
+    return fixed(v, 1) + QStringLiteral(" W");
+}
+
+QString temp(double celsius)
+{
+    if (Settings::flag(Settings::Key::useFahrenheit))
+        return fixed(celsius * 9 / 5 + 32, 0) + QStringLiteral("°F");
+    return fixed(celsius, 0) + QStringLiteral("°");
+}
+
+QString minutes(int m)
+{
+    if (m < 1)
+        return QStringLiteral("\u2014");
+    if (m < 60)
+        return QString::number(m) + u'm';
+    return QString::number(m / 60) + QStringLiteral("h ") + QString::number(m % 60) + u'm';
+}
+
+} // namespace Fmt

@@ -1,0 +1,179 @@
+#include "l10n/Localizer.h"
+
+#include "app/Settings.h"
+
+#include <QHash>
+#include <QLocale>
+#include <QTranslator>
+
+#include <memory>
+
+const QList<AppLanguage> &allAppLanguages()
+{
+    static const QList<AppLanguage> all = {AppLanguage::system, AppLanguage::en, AppLanguage::zhHans,
+                                           AppLanguage::zhHant, AppLanguage::ja, AppLanguage::ko,
+                                           AppLanguage::th};
+    return all;
+}
+
+const QList<AppLanguage> &concreteLanguages()
+{
+    static const QList<AppLanguage> concrete = allAppLanguages().mid(1);
+    return concrete;
+}
+
+QString languageRawText(AppLanguage lang)
+{
+    switch (lang) {
+    case AppLanguage::system: return QStringLiteral("system");
+    case AppLanguage::en: return QStringLiteral("en");
+    case AppLanguage::zhHans: return QStringLiteral("zhHans");
+    case AppLanguage::zhHant: return QStringLiteral("zhHant");
+    case AppLanguage::ja: return QStringLiteral("ja");
+    case AppLanguage::ko: return QStringLiteral("ko");
+    case AppLanguage::th: return QStringLiteral("th");
+    }
+    return QStringLiteral("system");
+}
+
+std::optional<AppLanguage> languageFromRawText(const QString &raw)
+{
+    for (AppLanguage lang : allAppLanguages())
+        if (languageRawText(lang) == raw)
+            return lang;
+    return std::nullopt;
+}
+
+namespace {
+
+// One compiled translation per language other than English, embedded at
+// build time; the context is "LocKey" and the source is the English text.
+const QHash<AppLanguage, std::shared_ptr<QTranslator>> &translators()
+{
+    static const auto table = [] {
+        QHash<AppLanguage, std::shared_ptr<QTranslator>> map;
+        for (AppLanguage lang : concreteLanguages()) {
+            if (lang == AppLanguage::en)
+                continue;
+            auto translator = std::make_shared<QTranslator>();
+            if (translator->load(QStringLiteral(":/i18n/sulkbox_%1.qm").arg(languageRawText(lang))))
+                map.insert(lang, translator);
+        }
+        return map;
+    }();
+    return table;
+}
+
+} // namespace
+
+Localizer::Localizer()
+{
+    reload();
+}
+
+Localizer &Localizer::shared()
+{
+    static Localizer *instance = new Localizer; // lives for the whole process
+    return *instance;
+}
+
+void Localizer::reload()
+{
+    const auto stored = languageFromRawText(Settings::text(Settings::Key::appLanguage));
+    const AppLanguage lang = stored.value_or(AppLanguage::system);
+    if (lang != m_language) {
+        m_language = lang;
+        emit languageChanged();
+    }
+}
+
+void Localizer::setLanguage(AppLanguage lang)
+{
+    Settings::set(Settings::Key::appLanguage, languageRawText(lang));
+    if (lang == m_language)
+        return;
+    m_language = lang;
+    emit languageChanged();
+}
+
+AppLanguage Localizer::concrete() const
+{
+    return m_language == AppLanguage::system ? systemLanguage() : m_language;
+}
+
+AppLanguage Localizer::languageForTag(const QString &tag)
+{
+    if (tag.startsWith(u"zh"))
+        return tag.contains(u"Hant") ? AppLanguage::zhHant : AppLanguage::zhHans;
+    if (tag.startsWith(u"ja"))
+        return AppLanguage::ja;
+    if (tag.startsWith(u"ko"))
+        return AppLanguage::ko;
+    if (tag.startsWith(u"th"))
+        return AppLanguage::th;
+    return AppLanguage::en;
+}
+
+AppLanguage Localizer::systemLanguage()
+{
+    // Qt builds this list from LANGUAGE, LC_ALL, LC_MESSAGES and LANG.
+    const QStringList preferred = QLocale::system().uiLanguages();
+    return languageForTag(preferred.isEmpty() ? QStringLiteral("en") : preferred.first());
+}
+
+std::optional<QString> Localizer::tableText(LocKey key, AppLanguage lang)
+{
+    const auto it = translators().constFind(lang);
+    if (it == translators().constEnd())
+        return std::nullopt;
+    const QString english = rawValue(key);
+    if (english.isEmpty())
+        return std::nullopt;
+    const QString text = (*it)->translate("LocKey", english.toUtf8().constData());
+    if (text.isEmpty())
+        return std::nullopt;
+    return text;
+}
+
+QString Localizer::fill(const QString &format, const QStringList &args)
+{
+    if (args.isEmpty())
+        return format;
+    QString out;
+    out.reserve(format.size() + 16);
+    int next = 0;
+    for (qsizetype i = 0; i < format.size(); ++i) {
+        if (format[i] == u'%' && i + 1 < format.size() && format[i + 1] == u'@' && next < args.size()) {
+            out += args[next++];
+            ++i;
+        } else {
+            out += format[i];
+        }
+    }
+    return out;
+}
+
+QString Localizer::t(LocKey key, const QStringList &args) const
+{
+    const AppLanguage lang = concrete();
+    QString text = rawValue(key);
+    if (lang != AppLanguage::en) {
+        if (auto translated = tableText(key, lang))
+            text = *translated;
+    }
+    return fill(text, args);
+}
+
+QString Localizer::pickerName(AppLanguage lang) const
+{
+    switch (lang) {
+    case AppLanguage::system: return t(LocKey::autoLanguage);
+    case AppLanguage::en: return QStringLiteral("English");
+    case AppLanguage::zhHans: return QStringLiteral("简体中文");
+    case AppLanguage::zhHant: return QStringLiteral("繁體中文");
+    case AppLanguage::ja: return QStringLiteral("日本語");
+    case AppLanguage::ko: return QStringLiteral("한국어");
+    case AppLanguage::th: return QStringLiteral("ไทย");
+    }
+    return {};
+}

@@ -1,0 +1,7 @@
+#include "model/SystemMonitor.h"
+
+// The mood and roast state of the model lives here.
+
+void SystemMonitor::updateMood()
+{
+}

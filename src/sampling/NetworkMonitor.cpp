@@ -1,0 +1,11 @@
+#include "sampling/NetworkMonitor.h"
+
+NetworkMonitor::NetworkMonitor(SystemRoots roots)
+    : m_roots(std::move(roots))
+{
+}
+
+NetworkSample NetworkMonitor::read(bool)
+{
+    return {};
+}
