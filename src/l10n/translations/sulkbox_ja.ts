@@ -6,82 +6,82 @@
     <message>
         <extracomment>memory</extracomment>
         <source>Memory</source>
-        <translation type="unfinished"></translation>
+        <translation>メモリ</translation>
     </message>
     <message>
         <extracomment>network</extracomment>
         <source>Network</source>
-        <translation type="unfinished"></translation>
+        <translation>ネットワーク</translation>
     </message>
     <message>
         <extracomment>disk</extracomment>
         <source>Disk</source>
-        <translation type="unfinished"></translation>
+        <translation>ディスク</translation>
     </message>
     <message>
         <extracomment>sensors</extracomment>
         <source>Sensors</source>
-        <translation type="unfinished"></translation>
+        <translation>センサー</translation>
     </message>
     <message>
         <extracomment>userLabel</extracomment>
         <source>User</source>
-        <translation type="unfinished"></translation>
+        <translation>ユーザ</translation>
     </message>
     <message>
         <extracomment>systemLabel</extracomment>
         <source>System</source>
-        <translation type="unfinished"></translation>
+        <translation>システム</translation>
     </message>
     <message>
         <extracomment>coresCount</extracomment>
         <source>Cores (%@)</source>
-        <translation type="unfinished"></translation>
+        <translation>コア（%@）</translation>
     </message>
     <message>
         <extracomment>used</extracomment>
         <source>Used</source>
-        <translation type="unfinished"></translation>
+        <translation>使用済み</translation>
     </message>
     <message>
         <extracomment>wired</extracomment>
         <source>Wired</source>
-        <translation type="unfinished"></translation>
+        <translation>確保済み</translation>
     </message>
     <message>
         <extracomment>compr</extracomment>
         <source>Compr.</source>
-        <translation type="unfinished"></translation>
+        <translation>圧縮</translation>
     </message>
     <message>
         <extracomment>cached</extracomment>
         <source>Cached</source>
-        <translation type="unfinished"></translation>
+        <translation>キャッシュ</translation>
     </message>
     <message>
         <extracomment>free</extracomment>
         <source>Free</source>
-        <translation type="unfinished"></translation>
+        <translation>空き</translation>
     </message>
     <message>
         <extracomment>swap</extracomment>
         <source>Swap</source>
-        <translation type="unfinished"></translation>
+        <translation>スワップ</translation>
     </message>
     <message>
         <extracomment>installedFmt</extracomment>
         <source>%@ installed</source>
-        <translation type="unfinished"></translation>
+        <translation>%@ 搭載</translation>
     </message>
     <message>
         <extracomment>freeUp</extracomment>
         <source>Free up</source>
-        <translation type="unfinished"></translation>
+        <translation>解放</translation>
     </message>
     <message>
         <extracomment>cleaning</extracomment>
         <source>cleaning…</source>
-        <translation type="unfinished"></translation>
+        <translation>解放中…</translation>
     </message>
     <message>
         <extracomment>freedFmt</extracomment>
@@ -91,52 +91,52 @@
     <message>
         <extracomment>freshening</extracomment>
         <source>freshening up…</source>
-        <translation type="unfinished"></translation>
+        <translation>リフレッシュ中…</translation>
     </message>
     <message>
         <extracomment>muchLighter</extracomment>
         <source>much lighter!</source>
-        <translation type="unfinished"></translation>
+        <translation>すっきり！</translation>
     </message>
     <message>
         <extracomment>download</extracomment>
         <source>Download</source>
-        <translation type="unfinished"></translation>
+        <translation>ダウンロード</translation>
     </message>
     <message>
         <extracomment>upload</extracomment>
         <source>Upload</source>
-        <translation type="unfinished"></translation>
+        <translation>アップロード</translation>
     </message>
     <message>
         <extracomment>read</extracomment>
         <source>Read</source>
-        <translation type="unfinished"></translation>
+        <translation>読み込み</translation>
     </message>
     <message>
         <extracomment>write</extracomment>
         <source>Write</source>
-        <translation type="unfinished"></translation>
+        <translation>書き込み</translation>
     </message>
     <message>
         <extracomment>inLabel</extracomment>
         <source>In</source>
-        <translation type="unfinished"></translation>
+        <translation>受信</translation>
     </message>
     <message>
         <extracomment>outLabel</extracomment>
         <source>Out</source>
-        <translation type="unfinished"></translation>
+        <translation>送信</translation>
     </message>
     <message>
         <extracomment>volumesFmt</extracomment>
         <source>%@ volumes</source>
-        <translation type="unfinished"></translation>
+        <translation>%@ 個のボリューム</translation>
     </message>
     <message>
         <extracomment>freeFmt</extracomment>
         <source>%@ free</source>
-        <translation type="unfinished"></translation>
+        <translation>空き %@</translation>
     </message>
     <message>
         <extracomment>ofFmt</extracomment>
@@ -146,167 +146,167 @@
     <message>
         <extracomment>fans</extracomment>
         <source>Fans</source>
-        <translation type="unfinished"></translation>
+        <translation>ファン</translation>
     </message>
     <message>
         <extracomment>fanFmt</extracomment>
         <source>Fan %@</source>
-        <translation type="unfinished"></translation>
+        <translation>ファン %@</translation>
     </message>
     <message>
         <extracomment>temperatures</extracomment>
         <source>Temperatures</source>
-        <translation type="unfinished"></translation>
+        <translation>温度</translation>
     </message>
     <message>
         <extracomment>health</extracomment>
         <source>Health</source>
-        <translation type="unfinished"></translation>
+        <translation>最大容量</translation>
     </message>
     <message>
         <extracomment>cycles</extracomment>
         <source>Cycles</source>
-        <translation type="unfinished"></translation>
+        <translation>充放電回数</translation>
     </message>
     <message>
         <extracomment>rpmFmt</extracomment>
         <source>%@ rpm</source>
-        <translation type="unfinished"></translation>
+        <translation>%@ rpm</translation>
     </message>
     <message>
         <extracomment>noSensors</extracomment>
         <source>No readable sensors on this Mac.</source>
-        <translation type="unfinished"></translation>
+        <translation>この Mac には読み取れるセンサーがありません。</translation>
     </message>
     <message>
         <extracomment>charging</extracomment>
         <source>Charging</source>
-        <translation type="unfinished"></translation>
+        <translation>充電中</translation>
     </message>
     <message>
         <extracomment>chargingToFull</extracomment>
         <source>Charging · %@</source>
-        <translation type="unfinished"></translation>
+        <translation>充電中 · 満充電まで %@</translation>
     </message>
     <message>
         <extracomment>pluggedIn</extracomment>
         <source>Plugged in</source>
-        <translation type="unfinished"></translation>
+        <translation>電源接続中</translation>
     </message>
     <message>
         <extracomment>timeLeft</extracomment>
         <source>%@ left</source>
-        <translation type="unfinished"></translation>
+        <translation>残り %@</translation>
     </message>
     <message>
         <extracomment>onBattery</extracomment>
         <source>On battery</source>
-        <translation type="unfinished"></translation>
+        <translation>バッテリー駆動</translation>
     </message>
     <message>
         <extracomment>activityMonitor</extracomment>
         <source>Activity Monitor</source>
-        <translation type="unfinished"></translation>
+        <translation>アクティビティモニタ</translation>
     </message>
     <message>
         <extracomment>quit</extracomment>
         <source>Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>終了</translation>
     </message>
     <message>
         <extracomment>yourMac</extracomment>
         <source>Your Mac</source>
-        <translation type="unfinished"></translation>
+        <translation>あなたの Mac</translation>
     </message>
     <message>
         <extracomment>general</extracomment>
         <source>General</source>
-        <translation type="unfinished"></translation>
+        <translation>一般</translation>
     </message>
     <message>
         <extracomment>launchAtLogin</extracomment>
         <source>Launch at login</source>
-        <translation type="unfinished"></translation>
+        <translation>ログイン時に起動</translation>
     </message>
     <message>
         <extracomment>refreshEvery</extracomment>
         <source>Refresh every</source>
-        <translation type="unfinished"></translation>
+        <translation>更新間隔</translation>
     </message>
     <message>
         <extracomment>sec1</extracomment>
         <source>1 second</source>
-        <translation type="unfinished"></translation>
+        <translation>1 秒</translation>
     </message>
     <message>
         <extracomment>sec2</extracomment>
         <source>2 seconds</source>
-        <translation type="unfinished"></translation>
+        <translation>2 秒</translation>
     </message>
     <message>
         <extracomment>sec5</extracomment>
         <source>5 seconds</source>
-        <translation type="unfinished"></translation>
+        <translation>5 秒</translation>
     </message>
     <message>
         <extracomment>temperature</extracomment>
         <source>Temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>温度の単位</translation>
     </message>
     <message>
         <extracomment>celsius</extracomment>
         <source>Celsius (°C)</source>
-        <translation type="unfinished"></translation>
+        <translation>摂氏（°C）</translation>
     </message>
     <message>
         <extracomment>fahrenheit</extracomment>
         <source>Fahrenheit (°F)</source>
-        <translation type="unfinished"></translation>
+        <translation>華氏（°F）</translation>
     </message>
     <message>
         <extracomment>personality</extracomment>
         <source>Personality</source>
-        <translation type="unfinished"></translation>
+        <translation>性格</translation>
     </message>
     <message>
         <extracomment>showMood</extracomment>
         <source>Show mood in menu bar</source>
-        <translation type="unfinished"></translation>
+        <translation>メニューバーに気分を表示</translation>
     </message>
     <message>
         <extracomment>petName</extracomment>
         <source>Pet name (optional)</source>
-        <translation type="unfinished"></translation>
+        <translation>ニックネーム（任意）</translation>
     </message>
     <message>
         <extracomment>petPlaceholder</extracomment>
         <source>e.g. Pixel</source>
-        <translation type="unfinished"></translation>
+        <translation>例：ポチ</translation>
     </message>
     <message>
         <extracomment>petHint</extracomment>
         <source>Shown above the mood in the panel.</source>
-        <translation type="unfinished"></translation>
+        <translation>パネルで、気分の上に表示される名前です。</translation>
     </message>
     <message>
         <extracomment>savageMode</extracomment>
         <source>Savage Mode</source>
-        <translation type="unfinished"></translation>
+        <translation>毒舌モード</translation>
     </message>
     <message>
         <extracomment>savageModeHint</extracomment>
         <source>Tap a module and it roasts you. Not for the sensitive.</source>
-        <translation type="unfinished"></translation>
+        <translation>モジュールをタップすると毒舌が飛んできます。打たれ弱い人にはおすすめしません。</translation>
     </message>
     <message>
         <extracomment>modulesInPanel</extracomment>
         <source>Modules in panel</source>
-        <translation type="unfinished"></translation>
+        <translation>パネルに表示するモジュール</translation>
     </message>
     <message>
         <extracomment>language</extracomment>
         <source>Language</source>
-        <translation type="unfinished"></translation>
+        <translation>言語</translation>
     </message>
     <message>
         <extracomment>autoLanguage</extracomment>
@@ -316,12 +316,12 @@
     <message>
         <extracomment>about</extracomment>
         <source>About</source>
-        <translation type="unfinished"></translation>
+        <translation>このアプリについて</translation>
     </message>
     <message>
         <extracomment>versionFmt</extracomment>
         <source>Version %@</source>
-        <translation type="unfinished"></translation>
+        <translation>バージョン %@</translation>
     </message>
     <message>
         <extracomment>tagline</extracomment>
@@ -331,147 +331,147 @@
     <message>
         <extracomment>checkForUpdates</extracomment>
         <source>Check for Updates…</source>
-        <translation type="unfinished"></translation>
+        <translation>アップデートを確認…</translation>
     </message>
     <message>
         <extracomment>autoUpdate</extracomment>
         <source>Check for updates automatically</source>
-        <translation type="unfinished"></translation>
+        <translation>アップデートを自動的に確認</translation>
     </message>
     <message>
         <extracomment>processes</extracomment>
         <source>Processes</source>
-        <translation type="unfinished"></translation>
+        <translation>プロセス</translation>
     </message>
     <message>
         <extracomment>topProcesses</extracomment>
         <source>Top Processes</source>
-        <translation type="unfinished"></translation>
+        <translation>上位プロセス</translation>
     </message>
     <message>
         <extracomment>last60s</extracomment>
         <source>last 60s</source>
-        <translation type="unfinished"></translation>
+        <translation>直近 60 秒</translation>
     </message>
     <message>
         <extracomment>peakFmt</extracomment>
         <source>peak %@</source>
-        <translation type="unfinished"></translation>
+        <translation>ピーク %@</translation>
     </message>
     <message>
         <extracomment>power</extracomment>
         <source>Power</source>
-        <translation type="unfinished"></translation>
+        <translation>電力</translation>
     </message>
     <message>
         <extracomment>totalLabel</extracomment>
         <source>Total</source>
-        <translation type="unfinished"></translation>
+        <translation>合計</translation>
     </message>
     <message>
         <extracomment>compBattery</extracomment>
         <source>Battery</source>
-        <translation type="unfinished"></translation>
+        <translation>バッテリー</translation>
     </message>
     <message>
         <extracomment>justWokeUp</extracomment>
         <source>just woke up</source>
-        <translation type="unfinished"></translation>
+        <translation>寝起き</translation>
     </message>
     <message>
         <extracomment>soHot</extracomment>
         <source>so hot!</source>
-        <translation type="unfinished"></translation>
+        <translation>あっつい！</translation>
     </message>
     <message>
         <extracomment>runningLow</extracomment>
         <source>running low</source>
-        <translation type="unfinished"></translation>
+        <translation>電池ピンチ</translation>
     </message>
     <message>
         <extracomment>memoryFull</extracomment>
         <source>memory full</source>
-        <translation type="unfinished"></translation>
+        <translation>メモリぱんぱん</translation>
     </message>
     <message>
         <extracomment>swappingHard</extracomment>
         <source>swapping hard</source>
-        <translation type="unfinished"></translation>
+        <translation>スワップ地獄</translation>
     </message>
     <message>
         <extracomment>phew</extracomment>
         <source>phew…</source>
-        <translation type="unfinished"></translation>
+        <translation>ふぅ…</translation>
     </message>
     <message>
         <extracomment>allCoresBlazing</extracomment>
         <source>all cores blazing</source>
-        <translation type="unfinished"></translation>
+        <translation>全コア全開</translation>
     </message>
     <message>
         <extracomment>workingHard</extracomment>
         <source>working hard</source>
-        <translation type="unfinished"></translation>
+        <translation>がんばり中</translation>
     </message>
     <message>
         <extracomment>gobblingData</extracomment>
         <source>gobbling data</source>
-        <translation type="unfinished"></translation>
+        <translation>データもぐもぐ</translation>
     </message>
     <message>
         <extracomment>dataFeast</extracomment>
         <source>data feast!</source>
-        <translation type="unfinished"></translation>
+        <translation>データ祭り！</translation>
     </message>
     <message>
         <extracomment>beamingUp</extracomment>
         <source>beaming up</source>
-        <translation type="unfinished"></translation>
+        <translation>せっせと送信</translation>
     </message>
     <message>
         <extracomment>warmingUp</extracomment>
         <source>warming up</source>
-        <translation type="unfinished"></translation>
+        <translation>あったまってきた</translation>
     </message>
     <message>
         <extracomment>refueling</extracomment>
         <source>refueling</source>
-        <translation type="unfinished"></translation>
+        <translation>エネルギー補給中</translation>
     </message>
     <message>
         <extracomment>cruising</extracomment>
         <source>cruising</source>
-        <translation type="unfinished"></translation>
+        <translation>いい調子</translation>
     </message>
     <message>
         <extracomment>almostPacked</extracomment>
         <source>almost packed</source>
-        <translation type="unfinished"></translation>
+        <translation>ほぼ満杯</translation>
     </message>
     <message>
         <extracomment>sleepy</extracomment>
         <source>sleepy</source>
-        <translation type="unfinished"></translation>
+        <translation>おねむ</translation>
     </message>
     <message>
         <extracomment>dozingOff</extracomment>
         <source>dozing off</source>
-        <translation type="unfinished"></translation>
+        <translation>うとうと</translation>
     </message>
     <message>
         <extracomment>allChill</extracomment>
         <source>all chill</source>
-        <translation type="unfinished"></translation>
+        <translation>まったり</translation>
     </message>
     <message>
         <extracomment>peaceful</extracomment>
         <source>peaceful</source>
-        <translation type="unfinished"></translation>
+        <translation>おだやか</translation>
     </message>
     <message>
         <extracomment>wakingUp</extracomment>
         <source>waking up</source>
-        <translation type="unfinished"></translation>
+        <translation>おめざめ中</translation>
     </message>
     <message>
         <extracomment>stopPoking</extracomment>
@@ -481,17 +481,17 @@
     <message>
         <extracomment>glovesOff</extracomment>
         <source>gloves off!</source>
-        <translation type="unfinished"></translation>
+        <translation>手加減なし！</translation>
     </message>
     <message>
         <extracomment>beingNice</extracomment>
         <source>being nice again</source>
-        <translation type="unfinished"></translation>
+        <translation>いい子に戻った</translation>
     </message>
     <message>
         <extracomment>reasonStartingUp</extracomment>
         <source>starting up</source>
-        <translation type="unfinished"></translation>
+        <translation>起動中</translation>
     </message>
     <message>
         <extracomment>reasonFromHeat</extracomment>
@@ -501,57 +501,57 @@
     <message>
         <extracomment>reasonFromBattery</extracomment>
         <source>from %@ battery</source>
-        <translation type="unfinished"></translation>
+        <translation>バッテリー %@</translation>
     </message>
     <message>
         <extracomment>reasonFromMemory</extracomment>
         <source>from %@ memory use</source>
-        <translation type="unfinished"></translation>
+        <translation>メモリ使用率 %@</translation>
     </message>
     <message>
         <extracomment>reasonFromSwap</extracomment>
         <source>from %@ swap</source>
-        <translation type="unfinished"></translation>
+        <translation>スワップ %@</translation>
     </message>
     <message>
         <extracomment>reasonJustCooled</extracomment>
         <source>just cooled down</source>
-        <translation type="unfinished"></translation>
+        <translation>やっと冷えた</translation>
     </message>
     <message>
         <extracomment>reasonFromCores</extracomment>
         <source>from %@ cores maxed</source>
-        <translation type="unfinished"></translation>
+        <translation>%@ コアがフル稼働</translation>
     </message>
     <message>
         <extracomment>reasonFromCPU</extracomment>
         <source>from %@ CPU load</source>
-        <translation type="unfinished"></translation>
+        <translation>CPU 負荷 %@</translation>
     </message>
     <message>
         <extracomment>reasonFromDown</extracomment>
         <source>from %@ down</source>
-        <translation type="unfinished"></translation>
+        <translation>下り %@</translation>
     </message>
     <message>
         <extracomment>reasonFromUp</extracomment>
         <source>from %@ up</source>
-        <translation type="unfinished"></translation>
+        <translation>上り %@</translation>
     </message>
     <message>
         <extracomment>reasonFromWarmth</extracomment>
         <source>from %@ warmth</source>
-        <translation type="unfinished"></translation>
+        <translation>温度 %@</translation>
     </message>
     <message>
         <extracomment>reasonBarelyLoad</extracomment>
         <source>barely any load</source>
-        <translation type="unfinished"></translation>
+        <translation>負荷ほぼゼロ</translation>
     </message>
     <message>
         <extracomment>reasonStartupDiskFull</extracomment>
         <source>startup disk %@ full</source>
-        <translation type="unfinished"></translation>
+        <translation>起動ディスク使用率 %@</translation>
     </message>
     <message>
         <extracomment>reasonIdleNight</extracomment>
@@ -561,67 +561,67 @@
     <message>
         <extracomment>reasonIdleWhile</extracomment>
         <source>idle for a while</source>
-        <translation type="unfinished"></translation>
+        <translation>しばらくアイドル</translation>
     </message>
     <message>
         <extracomment>reasonLightLoad</extracomment>
         <source>light load</source>
-        <translation type="unfinished"></translation>
+        <translation>負荷は軽め</translation>
     </message>
     <message>
         <extracomment>reasonPokedTooMuch</extracomment>
         <source>poked way too much</source>
-        <translation type="unfinished"></translation>
+        <translation>つつかれすぎ</translation>
     </message>
     <message>
         <extracomment>reasonSavageOn</extracomment>
         <source>savage mode on</source>
-        <translation type="unfinished"></translation>
+        <translation>毒舌モード オン</translation>
     </message>
     <message>
         <extracomment>reasonSavageOff</extracomment>
         <source>savage mode off</source>
-        <translation type="unfinished"></translation>
+        <translation>毒舌モード オフ</translation>
     </message>
     <message>
         <extracomment>holNewYear</extracomment>
         <source>happy new year!</source>
-        <translation type="unfinished"></translation>
+        <translation>あけましておめでとう！</translation>
     </message>
     <message>
         <extracomment>holValentines</extracomment>
         <source>happy valentine’s</source>
-        <translation type="unfinished"></translation>
+        <translation>ハッピーバレンタイン</translation>
     </message>
     <message>
         <extracomment>holHalloween</extracomment>
         <source>happy halloween</source>
-        <translation type="unfinished"></translation>
+        <translation>ハッピーハロウィン</translation>
     </message>
     <message>
         <extracomment>holChristmas</extracomment>
         <source>merry christmas</source>
-        <translation type="unfinished"></translation>
+        <translation>メリークリスマス</translation>
     </message>
     <message>
         <extracomment>holSpring</extracomment>
         <source>happy spring festival</source>
-        <translation type="unfinished"></translation>
+        <translation>春節おめでとう</translation>
     </message>
     <message>
         <extracomment>holDragonBoat</extracomment>
         <source>happy dragon boat</source>
-        <translation type="unfinished"></translation>
+        <translation>端午の節句</translation>
     </message>
     <message>
         <extracomment>holMidAutumn</extracomment>
         <source>happy mid-autumn</source>
-        <translation type="unfinished"></translation>
+        <translation>中秋の名月</translation>
     </message>
     <message>
         <extracomment>holCheer</extracomment>
         <source>let’s celebrate</source>
-        <translation type="unfinished"></translation>
+        <translation>お祝いしよう</translation>
     </message>
 </context>
 </TS>
