@@ -6,82 +6,82 @@
     <message>
         <extracomment>memory</extracomment>
         <source>Memory</source>
-        <translation type="unfinished"></translation>
+        <translation>메모리</translation>
     </message>
     <message>
         <extracomment>network</extracomment>
         <source>Network</source>
-        <translation type="unfinished"></translation>
+        <translation>네트워크</translation>
     </message>
     <message>
         <extracomment>disk</extracomment>
         <source>Disk</source>
-        <translation type="unfinished"></translation>
+        <translation>디스크</translation>
     </message>
     <message>
         <extracomment>sensors</extracomment>
         <source>Sensors</source>
-        <translation type="unfinished"></translation>
+        <translation>센서</translation>
     </message>
     <message>
         <extracomment>userLabel</extracomment>
         <source>User</source>
-        <translation type="unfinished"></translation>
+        <translation>사용자</translation>
     </message>
     <message>
         <extracomment>systemLabel</extracomment>
         <source>System</source>
-        <translation type="unfinished"></translation>
+        <translation>시스템</translation>
     </message>
     <message>
         <extracomment>coresCount</extracomment>
         <source>Cores (%@)</source>
-        <translation type="unfinished"></translation>
+        <translation>코어 (%@)</translation>
     </message>
     <message>
         <extracomment>used</extracomment>
         <source>Used</source>
-        <translation type="unfinished"></translation>
+        <translation>사용 중</translation>
     </message>
     <message>
         <extracomment>wired</extracomment>
         <source>Wired</source>
-        <translation type="unfinished"></translation>
+        <translation>와이어드</translation>
     </message>
     <message>
         <extracomment>compr</extracomment>
         <source>Compr.</source>
-        <translation type="unfinished"></translation>
+        <translation>압축</translation>
     </message>
     <message>
         <extracomment>cached</extracomment>
         <source>Cached</source>
-        <translation type="unfinished"></translation>
+        <translation>캐시</translation>
     </message>
     <message>
         <extracomment>free</extracomment>
         <source>Free</source>
-        <translation type="unfinished"></translation>
+        <translation>여유</translation>
     </message>
     <message>
         <extracomment>swap</extracomment>
         <source>Swap</source>
-        <translation type="unfinished"></translation>
+        <translation>스왑</translation>
     </message>
     <message>
         <extracomment>installedFmt</extracomment>
         <source>%@ installed</source>
-        <translation type="unfinished"></translation>
+        <translation>%@ 탑재</translation>
     </message>
     <message>
         <extracomment>freeUp</extracomment>
         <source>Free up</source>
-        <translation type="unfinished"></translation>
+        <translation>정리하기</translation>
     </message>
     <message>
         <extracomment>cleaning</extracomment>
         <source>cleaning…</source>
-        <translation type="unfinished"></translation>
+        <translation>정리 중…</translation>
     </message>
     <message>
         <extracomment>freedFmt</extracomment>
@@ -91,52 +91,52 @@
     <message>
         <extracomment>freshening</extracomment>
         <source>freshening up…</source>
-        <translation type="unfinished"></translation>
+        <translation>싹 비우는 중…</translation>
     </message>
     <message>
         <extracomment>muchLighter</extracomment>
         <source>much lighter!</source>
-        <translation type="unfinished"></translation>
+        <translation>훨씬 가벼워!</translation>
     </message>
     <message>
         <extracomment>download</extracomment>
         <source>Download</source>
-        <translation type="unfinished"></translation>
+        <translation>다운로드</translation>
     </message>
     <message>
         <extracomment>upload</extracomment>
         <source>Upload</source>
-        <translation type="unfinished"></translation>
+        <translation>업로드</translation>
     </message>
     <message>
         <extracomment>read</extracomment>
         <source>Read</source>
-        <translation type="unfinished"></translation>
+        <translation>읽기</translation>
     </message>
     <message>
         <extracomment>write</extracomment>
         <source>Write</source>
-        <translation type="unfinished"></translation>
+        <translation>쓰기</translation>
     </message>
     <message>
         <extracomment>inLabel</extracomment>
         <source>In</source>
-        <translation type="unfinished"></translation>
+        <translation>수신</translation>
     </message>
     <message>
         <extracomment>outLabel</extracomment>
         <source>Out</source>
-        <translation type="unfinished"></translation>
+        <translation>송신</translation>
     </message>
     <message>
         <extracomment>volumesFmt</extracomment>
         <source>%@ volumes</source>
-        <translation type="unfinished"></translation>
+        <translation>볼륨 %@개</translation>
     </message>
     <message>
         <extracomment>freeFmt</extracomment>
         <source>%@ free</source>
-        <translation type="unfinished"></translation>
+        <translation>%@ 사용 가능</translation>
     </message>
     <message>
         <extracomment>ofFmt</extracomment>
@@ -146,167 +146,167 @@
     <message>
         <extracomment>fans</extracomment>
         <source>Fans</source>
-        <translation type="unfinished"></translation>
+        <translation>팬</translation>
     </message>
     <message>
         <extracomment>fanFmt</extracomment>
         <source>Fan %@</source>
-        <translation type="unfinished"></translation>
+        <translation>팬 %@</translation>
     </message>
     <message>
         <extracomment>temperatures</extracomment>
         <source>Temperatures</source>
-        <translation type="unfinished"></translation>
+        <translation>온도</translation>
     </message>
     <message>
         <extracomment>health</extracomment>
         <source>Health</source>
-        <translation type="unfinished"></translation>
+        <translation>성능 상태</translation>
     </message>
     <message>
         <extracomment>cycles</extracomment>
         <source>Cycles</source>
-        <translation type="unfinished"></translation>
+        <translation>사이클 수</translation>
     </message>
     <message>
         <extracomment>rpmFmt</extracomment>
         <source>%@ rpm</source>
-        <translation type="unfinished"></translation>
+        <translation>%@ rpm</translation>
     </message>
     <message>
         <extracomment>noSensors</extracomment>
         <source>No readable sensors on this Mac.</source>
-        <translation type="unfinished"></translation>
+        <translation>이 Mac에는 읽을 수 있는 센서가 없습니다.</translation>
     </message>
     <message>
         <extracomment>charging</extracomment>
         <source>Charging</source>
-        <translation type="unfinished"></translation>
+        <translation>충전 중</translation>
     </message>
     <message>
         <extracomment>chargingToFull</extracomment>
         <source>Charging · %@</source>
-        <translation type="unfinished"></translation>
+        <translation>충전 중 · %@</translation>
     </message>
     <message>
         <extracomment>pluggedIn</extracomment>
         <source>Plugged in</source>
-        <translation type="unfinished"></translation>
+        <translation>전원 연결됨</translation>
     </message>
     <message>
         <extracomment>timeLeft</extracomment>
         <source>%@ left</source>
-        <translation type="unfinished"></translation>
+        <translation>%@ 남음</translation>
     </message>
     <message>
         <extracomment>onBattery</extracomment>
         <source>On battery</source>
-        <translation type="unfinished"></translation>
+        <translation>배터리 사용 중</translation>
     </message>
     <message>
         <extracomment>activityMonitor</extracomment>
         <source>Activity Monitor</source>
-        <translation type="unfinished"></translation>
+        <translation>활성 상태 보기</translation>
     </message>
     <message>
         <extracomment>quit</extracomment>
         <source>Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>종료</translation>
     </message>
     <message>
         <extracomment>yourMac</extracomment>
         <source>Your Mac</source>
-        <translation type="unfinished"></translation>
+        <translation>내 Mac</translation>
     </message>
     <message>
         <extracomment>general</extracomment>
         <source>General</source>
-        <translation type="unfinished"></translation>
+        <translation>일반</translation>
     </message>
     <message>
         <extracomment>launchAtLogin</extracomment>
         <source>Launch at login</source>
-        <translation type="unfinished"></translation>
+        <translation>로그인 시 실행</translation>
     </message>
     <message>
         <extracomment>refreshEvery</extracomment>
         <source>Refresh every</source>
-        <translation type="unfinished"></translation>
+        <translation>새로 고침 간격</translation>
     </message>
     <message>
         <extracomment>sec1</extracomment>
         <source>1 second</source>
-        <translation type="unfinished"></translation>
+        <translation>1초</translation>
     </message>
     <message>
         <extracomment>sec2</extracomment>
         <source>2 seconds</source>
-        <translation type="unfinished"></translation>
+        <translation>2초</translation>
     </message>
     <message>
         <extracomment>sec5</extracomment>
         <source>5 seconds</source>
-        <translation type="unfinished"></translation>
+        <translation>5초</translation>
     </message>
     <message>
         <extracomment>temperature</extracomment>
         <source>Temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>온도 단위</translation>
     </message>
     <message>
         <extracomment>celsius</extracomment>
         <source>Celsius (°C)</source>
-        <translation type="unfinished"></translation>
+        <translation>섭씨 (°C)</translation>
     </message>
     <message>
         <extracomment>fahrenheit</extracomment>
         <source>Fahrenheit (°F)</source>
-        <translation type="unfinished"></translation>
+        <translation>화씨 (°F)</translation>
     </message>
     <message>
         <extracomment>personality</extracomment>
         <source>Personality</source>
-        <translation type="unfinished"></translation>
+        <translation>성격</translation>
     </message>
     <message>
         <extracomment>showMood</extracomment>
         <source>Show mood in menu bar</source>
-        <translation type="unfinished"></translation>
+        <translation>메뉴 막대에 기분 표시</translation>
     </message>
     <message>
         <extracomment>petName</extracomment>
         <source>Pet name (optional)</source>
-        <translation type="unfinished"></translation>
+        <translation>애칭 (선택 사항)</translation>
     </message>
     <message>
         <extracomment>petPlaceholder</extracomment>
         <source>e.g. Pixel</source>
-        <translation type="unfinished"></translation>
+        <translation>예: 콩이</translation>
     </message>
     <message>
         <extracomment>petHint</extracomment>
         <source>Shown above the mood in the panel.</source>
-        <translation type="unfinished"></translation>
+        <translation>패널에서 기분 위에 표시됩니다.</translation>
     </message>
     <message>
         <extracomment>savageMode</extracomment>
         <source>Savage Mode</source>
-        <translation type="unfinished"></translation>
+        <translation>독설 모드</translation>
     </message>
     <message>
         <extracomment>savageModeHint</extracomment>
         <source>Tap a module and it roasts you. Not for the sensitive.</source>
-        <translation type="unfinished"></translation>
+        <translation>모듈을 누르면 독설이 날아옵니다. 마음 여린 분은 주의하세요.</translation>
     </message>
     <message>
         <extracomment>modulesInPanel</extracomment>
         <source>Modules in panel</source>
-        <translation type="unfinished"></translation>
+        <translation>패널에 표시할 모듈</translation>
     </message>
     <message>
         <extracomment>language</extracomment>
         <source>Language</source>
-        <translation type="unfinished"></translation>
+        <translation>언어</translation>
     </message>
     <message>
         <extracomment>autoLanguage</extracomment>
@@ -316,12 +316,12 @@
     <message>
         <extracomment>about</extracomment>
         <source>About</source>
-        <translation type="unfinished"></translation>
+        <translation>정보</translation>
     </message>
     <message>
         <extracomment>versionFmt</extracomment>
         <source>Version %@</source>
-        <translation type="unfinished"></translation>
+        <translation>버전 %@</translation>
     </message>
     <message>
         <extracomment>tagline</extracomment>
@@ -331,147 +331,147 @@
     <message>
         <extracomment>checkForUpdates</extracomment>
         <source>Check for Updates…</source>
-        <translation type="unfinished"></translation>
+        <translation>업데이트 확인…</translation>
     </message>
     <message>
         <extracomment>autoUpdate</extracomment>
         <source>Check for updates automatically</source>
-        <translation type="unfinished"></translation>
+        <translation>자동으로 업데이트 확인</translation>
     </message>
     <message>
         <extracomment>processes</extracomment>
         <source>Processes</source>
-        <translation type="unfinished"></translation>
+        <translation>프로세스</translation>
     </message>
     <message>
         <extracomment>topProcesses</extracomment>
         <source>Top Processes</source>
-        <translation type="unfinished"></translation>
+        <translation>상위 프로세스</translation>
     </message>
     <message>
         <extracomment>last60s</extracomment>
         <source>last 60s</source>
-        <translation type="unfinished"></translation>
+        <translation>최근 60초</translation>
     </message>
     <message>
         <extracomment>peakFmt</extracomment>
         <source>peak %@</source>
-        <translation type="unfinished"></translation>
+        <translation>최고 %@</translation>
     </message>
     <message>
         <extracomment>power</extracomment>
         <source>Power</source>
-        <translation type="unfinished"></translation>
+        <translation>전력</translation>
     </message>
     <message>
         <extracomment>totalLabel</extracomment>
         <source>Total</source>
-        <translation type="unfinished"></translation>
+        <translation>합계</translation>
     </message>
     <message>
         <extracomment>compBattery</extracomment>
         <source>Battery</source>
-        <translation type="unfinished"></translation>
+        <translation>배터리</translation>
     </message>
     <message>
         <extracomment>justWokeUp</extracomment>
         <source>just woke up</source>
-        <translation type="unfinished"></translation>
+        <translation>막 일어났어</translation>
     </message>
     <message>
         <extracomment>soHot</extracomment>
         <source>so hot!</source>
-        <translation type="unfinished"></translation>
+        <translation>너무 더워!</translation>
     </message>
     <message>
         <extracomment>runningLow</extracomment>
         <source>running low</source>
-        <translation type="unfinished"></translation>
+        <translation>기운 없어</translation>
     </message>
     <message>
         <extracomment>memoryFull</extracomment>
         <source>memory full</source>
-        <translation type="unfinished"></translation>
+        <translation>메모리 꽉 찼어</translation>
     </message>
     <message>
         <extracomment>swappingHard</extracomment>
         <source>swapping hard</source>
-        <translation type="unfinished"></translation>
+        <translation>스왑하느라 헉헉</translation>
     </message>
     <message>
         <extracomment>phew</extracomment>
         <source>phew…</source>
-        <translation type="unfinished"></translation>
+        <translation>휴…</translation>
     </message>
     <message>
         <extracomment>allCoresBlazing</extracomment>
         <source>all cores blazing</source>
-        <translation type="unfinished"></translation>
+        <translation>코어 전부 활활</translation>
     </message>
     <message>
         <extracomment>workingHard</extracomment>
         <source>working hard</source>
-        <translation type="unfinished"></translation>
+        <translation>열일 중</translation>
     </message>
     <message>
         <extracomment>gobblingData</extracomment>
         <source>gobbling data</source>
-        <translation type="unfinished"></translation>
+        <translation>데이터 냠냠</translation>
     </message>
     <message>
         <extracomment>dataFeast</extracomment>
         <source>data feast!</source>
-        <translation type="unfinished"></translation>
+        <translation>데이터 잔치!</translation>
     </message>
     <message>
         <extracomment>beamingUp</extracomment>
         <source>beaming up</source>
-        <translation type="unfinished"></translation>
+        <translation>쭉쭉 올리는 중</translation>
     </message>
     <message>
         <extracomment>warmingUp</extracomment>
         <source>warming up</source>
-        <translation type="unfinished"></translation>
+        <translation>슬슬 더워져</translation>
     </message>
     <message>
         <extracomment>refueling</extracomment>
         <source>refueling</source>
-        <translation type="unfinished"></translation>
+        <translation>에너지 충전 중</translation>
     </message>
     <message>
         <extracomment>cruising</extracomment>
         <source>cruising</source>
-        <translation type="unfinished"></translation>
+        <translation>순항 중</translation>
     </message>
     <message>
         <extracomment>almostPacked</extracomment>
         <source>almost packed</source>
-        <translation type="unfinished"></translation>
+        <translation>거의 만석</translation>
     </message>
     <message>
         <extracomment>sleepy</extracomment>
         <source>sleepy</source>
-        <translation type="unfinished"></translation>
+        <translation>졸려</translation>
     </message>
     <message>
         <extracomment>dozingOff</extracomment>
         <source>dozing off</source>
-        <translation type="unfinished"></translation>
+        <translation>꾸벅꾸벅</translation>
     </message>
     <message>
         <extracomment>allChill</extracomment>
         <source>all chill</source>
-        <translation type="unfinished"></translation>
+        <translation>여유만만</translation>
     </message>
     <message>
         <extracomment>peaceful</extracomment>
         <source>peaceful</source>
-        <translation type="unfinished"></translation>
+        <translation>평화로워</translation>
     </message>
     <message>
         <extracomment>wakingUp</extracomment>
         <source>waking up</source>
-        <translation type="unfinished"></translation>
+        <translation>일어나는 중</translation>
     </message>
     <message>
         <extracomment>stopPoking</extracomment>
@@ -481,17 +481,17 @@
     <message>
         <extracomment>glovesOff</extracomment>
         <source>gloves off!</source>
-        <translation type="unfinished"></translation>
+        <translation>봐주기 없다!</translation>
     </message>
     <message>
         <extracomment>beingNice</extracomment>
         <source>being nice again</source>
-        <translation type="unfinished"></translation>
+        <translation>다시 순한 맛</translation>
     </message>
     <message>
         <extracomment>reasonStartingUp</extracomment>
         <source>starting up</source>
-        <translation type="unfinished"></translation>
+        <translation>시동 중</translation>
     </message>
     <message>
         <extracomment>reasonFromHeat</extracomment>
@@ -501,57 +501,57 @@
     <message>
         <extracomment>reasonFromBattery</extracomment>
         <source>from %@ battery</source>
-        <translation type="unfinished"></translation>
+        <translation>배터리 %@</translation>
     </message>
     <message>
         <extracomment>reasonFromMemory</extracomment>
         <source>from %@ memory use</source>
-        <translation type="unfinished"></translation>
+        <translation>메모리 사용률 %@</translation>
     </message>
     <message>
         <extracomment>reasonFromSwap</extracomment>
         <source>from %@ swap</source>
-        <translation type="unfinished"></translation>
+        <translation>스왑 %@</translation>
     </message>
     <message>
         <extracomment>reasonJustCooled</extracomment>
         <source>just cooled down</source>
-        <translation type="unfinished"></translation>
+        <translation>방금 식었음</translation>
     </message>
     <message>
         <extracomment>reasonFromCores</extracomment>
         <source>from %@ cores maxed</source>
-        <translation type="unfinished"></translation>
+        <translation>코어 %@ 풀가동</translation>
     </message>
     <message>
         <extracomment>reasonFromCPU</extracomment>
         <source>from %@ CPU load</source>
-        <translation type="unfinished"></translation>
+        <translation>CPU 부하 %@</translation>
     </message>
     <message>
         <extracomment>reasonFromDown</extracomment>
         <source>from %@ down</source>
-        <translation type="unfinished"></translation>
+        <translation>다운로드 %@</translation>
     </message>
     <message>
         <extracomment>reasonFromUp</extracomment>
         <source>from %@ up</source>
-        <translation type="unfinished"></translation>
+        <translation>업로드 %@</translation>
     </message>
     <message>
         <extracomment>reasonFromWarmth</extracomment>
         <source>from %@ warmth</source>
-        <translation type="unfinished"></translation>
+        <translation>%@ 미열</translation>
     </message>
     <message>
         <extracomment>reasonBarelyLoad</extracomment>
         <source>barely any load</source>
-        <translation type="unfinished"></translation>
+        <translation>부하 거의 없음</translation>
     </message>
     <message>
         <extracomment>reasonStartupDiskFull</extracomment>
         <source>startup disk %@ full</source>
-        <translation type="unfinished"></translation>
+        <translation>시동 디스크 %@ 사용 중</translation>
     </message>
     <message>
         <extracomment>reasonIdleNight</extracomment>
@@ -561,67 +561,67 @@
     <message>
         <extracomment>reasonIdleWhile</extracomment>
         <source>idle for a while</source>
-        <translation type="unfinished"></translation>
+        <translation>한동안 유휴 상태</translation>
     </message>
     <message>
         <extracomment>reasonLightLoad</extracomment>
         <source>light load</source>
-        <translation type="unfinished"></translation>
+        <translation>부하 적음</translation>
     </message>
     <message>
         <extracomment>reasonPokedTooMuch</extracomment>
         <source>poked way too much</source>
-        <translation type="unfinished"></translation>
+        <translation>너무 많이 찔림</translation>
     </message>
     <message>
         <extracomment>reasonSavageOn</extracomment>
         <source>savage mode on</source>
-        <translation type="unfinished"></translation>
+        <translation>독설 모드 켜짐</translation>
     </message>
     <message>
         <extracomment>reasonSavageOff</extracomment>
         <source>savage mode off</source>
-        <translation type="unfinished"></translation>
+        <translation>독설 모드 꺼짐</translation>
     </message>
     <message>
         <extracomment>holNewYear</extracomment>
         <source>happy new year!</source>
-        <translation type="unfinished"></translation>
+        <translation>새해 복 많이 받아!</translation>
     </message>
     <message>
         <extracomment>holValentines</extracomment>
         <source>happy valentine’s</source>
-        <translation type="unfinished"></translation>
+        <translation>해피 밸런타인데이</translation>
     </message>
     <message>
         <extracomment>holHalloween</extracomment>
         <source>happy halloween</source>
-        <translation type="unfinished"></translation>
+        <translation>해피 핼러윈</translation>
     </message>
     <message>
         <extracomment>holChristmas</extracomment>
         <source>merry christmas</source>
-        <translation type="unfinished"></translation>
+        <translation>메리 크리스마스</translation>
     </message>
     <message>
         <extracomment>holSpring</extracomment>
         <source>happy spring festival</source>
-        <translation type="unfinished"></translation>
+        <translation>즐거운 설날</translation>
     </message>
     <message>
         <extracomment>holDragonBoat</extracomment>
         <source>happy dragon boat</source>
-        <translation type="unfinished"></translation>
+        <translation>즐거운 단오</translation>
     </message>
     <message>
         <extracomment>holMidAutumn</extracomment>
         <source>happy mid-autumn</source>
-        <translation type="unfinished"></translation>
+        <translation>풍성한 한가위</translation>
     </message>
     <message>
         <extracomment>holCheer</extracomment>
         <source>let’s celebrate</source>
-        <translation type="unfinished"></translation>
+        <translation>다 같이 축하하자</translation>
     </message>
 </context>
 </TS>
