@@ -6,82 +6,82 @@
     <message>
         <extracomment>memory</extracomment>
         <source>Memory</source>
-        <translation type="unfinished"></translation>
+        <translation>内存</translation>
     </message>
     <message>
         <extracomment>network</extracomment>
         <source>Network</source>
-        <translation type="unfinished"></translation>
+        <translation>网络</translation>
     </message>
     <message>
         <extracomment>disk</extracomment>
         <source>Disk</source>
-        <translation type="unfinished"></translation>
+        <translation>磁盘</translation>
     </message>
     <message>
         <extracomment>sensors</extracomment>
         <source>Sensors</source>
-        <translation type="unfinished"></translation>
+        <translation>传感器</translation>
     </message>
     <message>
         <extracomment>userLabel</extracomment>
         <source>User</source>
-        <translation type="unfinished"></translation>
+        <translation>用户</translation>
     </message>
     <message>
         <extracomment>systemLabel</extracomment>
         <source>System</source>
-        <translation type="unfinished"></translation>
+        <translation>系统</translation>
     </message>
     <message>
         <extracomment>coresCount</extracomment>
         <source>Cores (%@)</source>
-        <translation type="unfinished"></translation>
+        <translation>核心（%@）</translation>
     </message>
     <message>
         <extracomment>used</extracomment>
         <source>Used</source>
-        <translation type="unfinished"></translation>
+        <translation>已用</translation>
     </message>
     <message>
         <extracomment>wired</extracomment>
         <source>Wired</source>
-        <translation type="unfinished"></translation>
+        <translation>联动</translation>
     </message>
     <message>
         <extracomment>compr</extracomment>
         <source>Compr.</source>
-        <translation type="unfinished"></translation>
+        <translation>压缩</translation>
     </message>
     <message>
         <extracomment>cached</extracomment>
         <source>Cached</source>
-        <translation type="unfinished"></translation>
+        <translation>缓存</translation>
     </message>
     <message>
         <extracomment>free</extracomment>
         <source>Free</source>
-        <translation type="unfinished"></translation>
+        <translation>空闲</translation>
     </message>
     <message>
         <extracomment>swap</extracomment>
         <source>Swap</source>
-        <translation type="unfinished"></translation>
+        <translation>交换</translation>
     </message>
     <message>
         <extracomment>installedFmt</extracomment>
         <source>%@ installed</source>
-        <translation type="unfinished"></translation>
+        <translation>已安装 %@</translation>
     </message>
     <message>
         <extracomment>freeUp</extracomment>
         <source>Free up</source>
-        <translation type="unfinished"></translation>
+        <translation>释放</translation>
     </message>
     <message>
         <extracomment>cleaning</extracomment>
         <source>cleaning…</source>
-        <translation type="unfinished"></translation>
+        <translation>清理中…</translation>
     </message>
     <message>
         <extracomment>freedFmt</extracomment>
@@ -91,52 +91,52 @@
     <message>
         <extracomment>freshening</extracomment>
         <source>freshening up…</source>
-        <translation type="unfinished"></translation>
+        <translation>收拾一下…</translation>
     </message>
     <message>
         <extracomment>muchLighter</extracomment>
         <source>much lighter!</source>
-        <translation type="unfinished"></translation>
+        <translation>轻松多了！</translation>
     </message>
     <message>
         <extracomment>download</extracomment>
         <source>Download</source>
-        <translation type="unfinished"></translation>
+        <translation>下载</translation>
     </message>
     <message>
         <extracomment>upload</extracomment>
         <source>Upload</source>
-        <translation type="unfinished"></translation>
+        <translation>上传</translation>
     </message>
     <message>
         <extracomment>read</extracomment>
         <source>Read</source>
-        <translation type="unfinished"></translation>
+        <translation>读取</translation>
     </message>
     <message>
         <extracomment>write</extracomment>
         <source>Write</source>
-        <translation type="unfinished"></translation>
+        <translation>写入</translation>
     </message>
     <message>
         <extracomment>inLabel</extracomment>
         <source>In</source>
-        <translation type="unfinished"></translation>
+        <translation>接收</translation>
     </message>
     <message>
         <extracomment>outLabel</extracomment>
         <source>Out</source>
-        <translation type="unfinished"></translation>
+        <translation>发送</translation>
     </message>
     <message>
         <extracomment>volumesFmt</extracomment>
         <source>%@ volumes</source>
-        <translation type="unfinished"></translation>
+        <translation>%@ 个卷</translation>
     </message>
     <message>
         <extracomment>freeFmt</extracomment>
         <source>%@ free</source>
-        <translation type="unfinished"></translation>
+        <translation>可用 %@</translation>
     </message>
     <message>
         <extracomment>ofFmt</extracomment>
@@ -146,167 +146,167 @@
     <message>
         <extracomment>fans</extracomment>
         <source>Fans</source>
-        <translation type="unfinished"></translation>
+        <translation>风扇</translation>
     </message>
     <message>
         <extracomment>fanFmt</extracomment>
         <source>Fan %@</source>
-        <translation type="unfinished"></translation>
+        <translation>风扇 %@</translation>
     </message>
     <message>
         <extracomment>temperatures</extracomment>
         <source>Temperatures</source>
-        <translation type="unfinished"></translation>
+        <translation>温度</translation>
     </message>
     <message>
         <extracomment>health</extracomment>
         <source>Health</source>
-        <translation type="unfinished"></translation>
+        <translation>健康度</translation>
     </message>
     <message>
         <extracomment>cycles</extracomment>
         <source>Cycles</source>
-        <translation type="unfinished"></translation>
+        <translation>循环次数</translation>
     </message>
     <message>
         <extracomment>rpmFmt</extracomment>
         <source>%@ rpm</source>
-        <translation type="unfinished"></translation>
+        <translation>%@ 转/分</translation>
     </message>
     <message>
         <extracomment>noSensors</extracomment>
         <source>No readable sensors on this Mac.</source>
-        <translation type="unfinished"></translation>
+        <translation>这台 Mac 上没有可读取的传感器。</translation>
     </message>
     <message>
         <extracomment>charging</extracomment>
         <source>Charging</source>
-        <translation type="unfinished"></translation>
+        <translation>充电中</translation>
     </message>
     <message>
         <extracomment>chargingToFull</extracomment>
         <source>Charging · %@</source>
-        <translation type="unfinished"></translation>
+        <translation>充电中 · %@ 后充满</translation>
     </message>
     <message>
         <extracomment>pluggedIn</extracomment>
         <source>Plugged in</source>
-        <translation type="unfinished"></translation>
+        <translation>已接通电源</translation>
     </message>
     <message>
         <extracomment>timeLeft</extracomment>
         <source>%@ left</source>
-        <translation type="unfinished"></translation>
+        <translation>剩余 %@</translation>
     </message>
     <message>
         <extracomment>onBattery</extracomment>
         <source>On battery</source>
-        <translation type="unfinished"></translation>
+        <translation>使用电池</translation>
     </message>
     <message>
         <extracomment>activityMonitor</extracomment>
         <source>Activity Monitor</source>
-        <translation type="unfinished"></translation>
+        <translation>活动监视器</translation>
     </message>
     <message>
         <extracomment>quit</extracomment>
         <source>Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>退出</translation>
     </message>
     <message>
         <extracomment>yourMac</extracomment>
         <source>Your Mac</source>
-        <translation type="unfinished"></translation>
+        <translation>你的 Mac</translation>
     </message>
     <message>
         <extracomment>general</extracomment>
         <source>General</source>
-        <translation type="unfinished"></translation>
+        <translation>通用</translation>
     </message>
     <message>
         <extracomment>launchAtLogin</extracomment>
         <source>Launch at login</source>
-        <translation type="unfinished"></translation>
+        <translation>登录时启动</translation>
     </message>
     <message>
         <extracomment>refreshEvery</extracomment>
         <source>Refresh every</source>
-        <translation type="unfinished"></translation>
+        <translation>刷新间隔</translation>
     </message>
     <message>
         <extracomment>sec1</extracomment>
         <source>1 second</source>
-        <translation type="unfinished"></translation>
+        <translation>1 秒</translation>
     </message>
     <message>
         <extracomment>sec2</extracomment>
         <source>2 seconds</source>
-        <translation type="unfinished"></translation>
+        <translation>2 秒</translation>
     </message>
     <message>
         <extracomment>sec5</extracomment>
         <source>5 seconds</source>
-        <translation type="unfinished"></translation>
+        <translation>5 秒</translation>
     </message>
     <message>
         <extracomment>temperature</extracomment>
         <source>Temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>温度单位</translation>
     </message>
     <message>
         <extracomment>celsius</extracomment>
         <source>Celsius (°C)</source>
-        <translation type="unfinished"></translation>
+        <translation>摄氏度（°C）</translation>
     </message>
     <message>
         <extracomment>fahrenheit</extracomment>
         <source>Fahrenheit (°F)</source>
-        <translation type="unfinished"></translation>
+        <translation>华氏度（°F）</translation>
     </message>
     <message>
         <extracomment>personality</extracomment>
         <source>Personality</source>
-        <translation type="unfinished"></translation>
+        <translation>个性</translation>
     </message>
     <message>
         <extracomment>showMood</extracomment>
         <source>Show mood in menu bar</source>
-        <translation type="unfinished"></translation>
+        <translation>在菜单栏显示心情</translation>
     </message>
     <message>
         <extracomment>petName</extracomment>
         <source>Pet name (optional)</source>
-        <translation type="unfinished"></translation>
+        <translation>昵称（可选）</translation>
     </message>
     <message>
         <extracomment>petPlaceholder</extracomment>
         <source>e.g. Pixel</source>
-        <translation type="unfinished"></translation>
+        <translation>例如：皮皮</translation>
     </message>
     <message>
         <extracomment>petHint</extracomment>
         <source>Shown above the mood in the panel.</source>
-        <translation type="unfinished"></translation>
+        <translation>显示在面板中的心情上方。</translation>
     </message>
     <message>
         <extracomment>savageMode</extracomment>
         <source>Savage Mode</source>
-        <translation type="unfinished"></translation>
+        <translation>毒舌模式</translation>
     </message>
     <message>
         <extracomment>savageModeHint</extracomment>
         <source>Tap a module and it roasts you. Not for the sensitive.</source>
-        <translation type="unfinished"></translation>
+        <translation>点一下模块，它就会吐槽你。玻璃心慎入。</translation>
     </message>
     <message>
         <extracomment>modulesInPanel</extracomment>
         <source>Modules in panel</source>
-        <translation type="unfinished"></translation>
+        <translation>面板中的模块</translation>
     </message>
     <message>
         <extracomment>language</extracomment>
         <source>Language</source>
-        <translation type="unfinished"></translation>
+        <translation>语言</translation>
     </message>
     <message>
         <extracomment>autoLanguage</extracomment>
@@ -316,12 +316,12 @@
     <message>
         <extracomment>about</extracomment>
         <source>About</source>
-        <translation type="unfinished"></translation>
+        <translation>关于</translation>
     </message>
     <message>
         <extracomment>versionFmt</extracomment>
         <source>Version %@</source>
-        <translation type="unfinished"></translation>
+        <translation>版本 %@</translation>
     </message>
     <message>
         <extracomment>tagline</extracomment>
@@ -331,147 +331,147 @@
     <message>
         <extracomment>checkForUpdates</extracomment>
         <source>Check for Updates…</source>
-        <translation type="unfinished"></translation>
+        <translation>检查更新…</translation>
     </message>
     <message>
         <extracomment>autoUpdate</extracomment>
         <source>Check for updates automatically</source>
-        <translation type="unfinished"></translation>
+        <translation>自动检查更新</translation>
     </message>
     <message>
         <extracomment>processes</extracomment>
         <source>Processes</source>
-        <translation type="unfinished"></translation>
+        <translation>进程</translation>
     </message>
     <message>
         <extracomment>topProcesses</extracomment>
         <source>Top Processes</source>
-        <translation type="unfinished"></translation>
+        <translation>进程排行</translation>
     </message>
     <message>
         <extracomment>last60s</extracomment>
         <source>last 60s</source>
-        <translation type="unfinished"></translation>
+        <translation>最近 60 秒</translation>
     </message>
     <message>
         <extracomment>peakFmt</extracomment>
         <source>peak %@</source>
-        <translation type="unfinished"></translation>
+        <translation>峰值 %@</translation>
     </message>
     <message>
         <extracomment>power</extracomment>
         <source>Power</source>
-        <translation type="unfinished"></translation>
+        <translation>功耗</translation>
     </message>
     <message>
         <extracomment>totalLabel</extracomment>
         <source>Total</source>
-        <translation type="unfinished"></translation>
+        <translation>总计</translation>
     </message>
     <message>
         <extracomment>compBattery</extracomment>
         <source>Battery</source>
-        <translation type="unfinished"></translation>
+        <translation>电池</translation>
     </message>
     <message>
         <extracomment>justWokeUp</extracomment>
         <source>just woke up</source>
-        <translation type="unfinished"></translation>
+        <translation>刚睡醒</translation>
     </message>
     <message>
         <extracomment>soHot</extracomment>
         <source>so hot!</source>
-        <translation type="unfinished"></translation>
+        <translation>好热！</translation>
     </message>
     <message>
         <extracomment>runningLow</extracomment>
         <source>running low</source>
-        <translation type="unfinished"></translation>
+        <translation>快没电了</translation>
     </message>
     <message>
         <extracomment>memoryFull</extracomment>
         <source>memory full</source>
-        <translation type="unfinished"></translation>
+        <translation>内存满了</translation>
     </message>
     <message>
         <extracomment>swappingHard</extracomment>
         <source>swapping hard</source>
-        <translation type="unfinished"></translation>
+        <translation>疯狂交换中</translation>
     </message>
     <message>
         <extracomment>phew</extracomment>
         <source>phew…</source>
-        <translation type="unfinished"></translation>
+        <translation>呼……</translation>
     </message>
     <message>
         <extracomment>allCoresBlazing</extracomment>
         <source>all cores blazing</source>
-        <translation type="unfinished"></translation>
+        <translation>全核狂飙</translation>
     </message>
     <message>
         <extracomment>workingHard</extracomment>
         <source>working hard</source>
-        <translation type="unfinished"></translation>
+        <translation>埋头苦干</translation>
     </message>
     <message>
         <extracomment>gobblingData</extracomment>
         <source>gobbling data</source>
-        <translation type="unfinished"></translation>
+        <translation>狂吞数据</translation>
     </message>
     <message>
         <extracomment>dataFeast</extracomment>
         <source>data feast!</source>
-        <translation type="unfinished"></translation>
+        <translation>数据盛宴！</translation>
     </message>
     <message>
         <extracomment>beamingUp</extracomment>
         <source>beaming up</source>
-        <translation type="unfinished"></translation>
+        <translation>嗖嗖上传中</translation>
     </message>
     <message>
         <extracomment>warmingUp</extracomment>
         <source>warming up</source>
-        <translation type="unfinished"></translation>
+        <translation>有点热了</translation>
     </message>
     <message>
         <extracomment>refueling</extracomment>
         <source>refueling</source>
-        <translation type="unfinished"></translation>
+        <translation>充电回血</translation>
     </message>
     <message>
         <extracomment>cruising</extracomment>
         <source>cruising</source>
-        <translation type="unfinished"></translation>
+        <translation>稳稳当当</translation>
     </message>
     <message>
         <extracomment>almostPacked</extracomment>
         <source>almost packed</source>
-        <translation type="unfinished"></translation>
+        <translation>快装满了</translation>
     </message>
     <message>
         <extracomment>sleepy</extracomment>
         <source>sleepy</source>
-        <translation type="unfinished"></translation>
+        <translation>好困</translation>
     </message>
     <message>
         <extracomment>dozingOff</extracomment>
         <source>dozing off</source>
-        <translation type="unfinished"></translation>
+        <translation>打盹中</translation>
     </message>
     <message>
         <extracomment>allChill</extracomment>
         <source>all chill</source>
-        <translation type="unfinished"></translation>
+        <translation>超悠闲</translation>
     </message>
     <message>
         <extracomment>peaceful</extracomment>
         <source>peaceful</source>
-        <translation type="unfinished"></translation>
+        <translation>岁月静好</translation>
     </message>
     <message>
         <extracomment>wakingUp</extracomment>
         <source>waking up</source>
-        <translation type="unfinished"></translation>
+        <translation>起床中</translation>
     </message>
     <message>
         <extracomment>stopPoking</extracomment>
@@ -481,17 +481,17 @@
     <message>
         <extracomment>glovesOff</extracomment>
         <source>gloves off!</source>
-        <translation type="unfinished"></translation>
+        <translation>不装了！</translation>
     </message>
     <message>
         <extracomment>beingNice</extracomment>
         <source>being nice again</source>
-        <translation type="unfinished"></translation>
+        <translation>又变乖了</translation>
     </message>
     <message>
         <extracomment>reasonStartingUp</extracomment>
         <source>starting up</source>
-        <translation type="unfinished"></translation>
+        <translation>正在启动</translation>
     </message>
     <message>
         <extracomment>reasonFromHeat</extracomment>
@@ -501,57 +501,57 @@
     <message>
         <extracomment>reasonFromBattery</extracomment>
         <source>from %@ battery</source>
-        <translation type="unfinished"></translation>
+        <translation>因为电量 %@</translation>
     </message>
     <message>
         <extracomment>reasonFromMemory</extracomment>
         <source>from %@ memory use</source>
-        <translation type="unfinished"></translation>
+        <translation>因为内存占用 %@</translation>
     </message>
     <message>
         <extracomment>reasonFromSwap</extracomment>
         <source>from %@ swap</source>
-        <translation type="unfinished"></translation>
+        <translation>因为交换占用 %@</translation>
     </message>
     <message>
         <extracomment>reasonJustCooled</extracomment>
         <source>just cooled down</source>
-        <translation type="unfinished"></translation>
+        <translation>刚刚降温</translation>
     </message>
     <message>
         <extracomment>reasonFromCores</extracomment>
         <source>from %@ cores maxed</source>
-        <translation type="unfinished"></translation>
+        <translation>因为 %@ 核心满载</translation>
     </message>
     <message>
         <extracomment>reasonFromCPU</extracomment>
         <source>from %@ CPU load</source>
-        <translation type="unfinished"></translation>
+        <translation>因为 CPU 负载 %@</translation>
     </message>
     <message>
         <extracomment>reasonFromDown</extracomment>
         <source>from %@ down</source>
-        <translation type="unfinished"></translation>
+        <translation>因为下载 %@</translation>
     </message>
     <message>
         <extracomment>reasonFromUp</extracomment>
         <source>from %@ up</source>
-        <translation type="unfinished"></translation>
+        <translation>因为上传 %@</translation>
     </message>
     <message>
         <extracomment>reasonFromWarmth</extracomment>
         <source>from %@ warmth</source>
-        <translation type="unfinished"></translation>
+        <translation>因为温度 %@</translation>
     </message>
     <message>
         <extracomment>reasonBarelyLoad</extracomment>
         <source>barely any load</source>
-        <translation type="unfinished"></translation>
+        <translation>几乎没有负载</translation>
     </message>
     <message>
         <extracomment>reasonStartupDiskFull</extracomment>
         <source>startup disk %@ full</source>
-        <translation type="unfinished"></translation>
+        <translation>启动盘已用 %@</translation>
     </message>
     <message>
         <extracomment>reasonIdleNight</extracomment>
@@ -561,67 +561,67 @@
     <message>
         <extracomment>reasonIdleWhile</extracomment>
         <source>idle for a while</source>
-        <translation type="unfinished"></translation>
+        <translation>空闲一阵子了</translation>
     </message>
     <message>
         <extracomment>reasonLightLoad</extracomment>
         <source>light load</source>
-        <translation type="unfinished"></translation>
+        <translation>负载很轻</translation>
     </message>
     <message>
         <extracomment>reasonPokedTooMuch</extracomment>
         <source>poked way too much</source>
-        <translation type="unfinished"></translation>
+        <translation>被戳太多次了</translation>
     </message>
     <message>
         <extracomment>reasonSavageOn</extracomment>
         <source>savage mode on</source>
-        <translation type="unfinished"></translation>
+        <translation>毒舌模式已开启</translation>
     </message>
     <message>
         <extracomment>reasonSavageOff</extracomment>
         <source>savage mode off</source>
-        <translation type="unfinished"></translation>
+        <translation>毒舌模式已关闭</translation>
     </message>
     <message>
         <extracomment>holNewYear</extracomment>
         <source>happy new year!</source>
-        <translation type="unfinished"></translation>
+        <translation>新年快乐！</translation>
     </message>
     <message>
         <extracomment>holValentines</extracomment>
         <source>happy valentine’s</source>
-        <translation type="unfinished"></translation>
+        <translation>情人节快乐</translation>
     </message>
     <message>
         <extracomment>holHalloween</extracomment>
         <source>happy halloween</source>
-        <translation type="unfinished"></translation>
+        <translation>万圣节快乐</translation>
     </message>
     <message>
         <extracomment>holChristmas</extracomment>
         <source>merry christmas</source>
-        <translation type="unfinished"></translation>
+        <translation>圣诞快乐</translation>
     </message>
     <message>
         <extracomment>holSpring</extracomment>
         <source>happy spring festival</source>
-        <translation type="unfinished"></translation>
+        <translation>春节快乐</translation>
     </message>
     <message>
         <extracomment>holDragonBoat</extracomment>
         <source>happy dragon boat</source>
-        <translation type="unfinished"></translation>
+        <translation>端午安康</translation>
     </message>
     <message>
         <extracomment>holMidAutumn</extracomment>
         <source>happy mid-autumn</source>
-        <translation type="unfinished"></translation>
+        <translation>中秋快乐</translation>
     </message>
     <message>
         <extracomment>holCheer</extracomment>
         <source>let’s celebrate</source>
-        <translation type="unfinished"></translation>
+        <translation>一起庆祝吧</translation>
     </message>
 </context>
 </TS>

@@ -6,82 +6,82 @@
     <message>
         <extracomment>memory</extracomment>
         <source>Memory</source>
-        <translation type="unfinished"></translation>
+        <translation>記憶體</translation>
     </message>
     <message>
         <extracomment>network</extracomment>
         <source>Network</source>
-        <translation type="unfinished"></translation>
+        <translation>網路</translation>
     </message>
     <message>
         <extracomment>disk</extracomment>
         <source>Disk</source>
-        <translation type="unfinished"></translation>
+        <translation>磁碟</translation>
     </message>
     <message>
         <extracomment>sensors</extracomment>
         <source>Sensors</source>
-        <translation type="unfinished"></translation>
+        <translation>感測器</translation>
     </message>
     <message>
         <extracomment>userLabel</extracomment>
         <source>User</source>
-        <translation type="unfinished"></translation>
+        <translation>使用者</translation>
     </message>
     <message>
         <extracomment>systemLabel</extracomment>
         <source>System</source>
-        <translation type="unfinished"></translation>
+        <translation>系統</translation>
     </message>
     <message>
         <extracomment>coresCount</extracomment>
         <source>Cores (%@)</source>
-        <translation type="unfinished"></translation>
+        <translation>核心（%@）</translation>
     </message>
     <message>
         <extracomment>used</extracomment>
         <source>Used</source>
-        <translation type="unfinished"></translation>
+        <translation>已使用</translation>
     </message>
     <message>
         <extracomment>wired</extracomment>
         <source>Wired</source>
-        <translation type="unfinished"></translation>
+        <translation>固定</translation>
     </message>
     <message>
         <extracomment>compr</extracomment>
         <source>Compr.</source>
-        <translation type="unfinished"></translation>
+        <translation>已壓縮</translation>
     </message>
     <message>
         <extracomment>cached</extracomment>
         <source>Cached</source>
-        <translation type="unfinished"></translation>
+        <translation>快取</translation>
     </message>
     <message>
         <extracomment>free</extracomment>
         <source>Free</source>
-        <translation type="unfinished"></translation>
+        <translation>未使用</translation>
     </message>
     <message>
         <extracomment>swap</extracomment>
         <source>Swap</source>
-        <translation type="unfinished"></translation>
+        <translation>置換</translation>
     </message>
     <message>
         <extracomment>installedFmt</extracomment>
         <source>%@ installed</source>
-        <translation type="unfinished"></translation>
+        <translation>已安裝 %@</translation>
     </message>
     <message>
         <extracomment>freeUp</extracomment>
         <source>Free up</source>
-        <translation type="unfinished"></translation>
+        <translation>釋放</translation>
     </message>
     <message>
         <extracomment>cleaning</extracomment>
         <source>cleaning…</source>
-        <translation type="unfinished"></translation>
+        <translation>清理中…</translation>
     </message>
     <message>
         <extracomment>freedFmt</extracomment>
@@ -91,52 +91,52 @@
     <message>
         <extracomment>freshening</extracomment>
         <source>freshening up…</source>
-        <translation type="unfinished"></translation>
+        <translation>整理一下…</translation>
     </message>
     <message>
         <extracomment>muchLighter</extracomment>
         <source>much lighter!</source>
-        <translation type="unfinished"></translation>
+        <translation>輕鬆多了！</translation>
     </message>
     <message>
         <extracomment>download</extracomment>
         <source>Download</source>
-        <translation type="unfinished"></translation>
+        <translation>下載</translation>
     </message>
     <message>
         <extracomment>upload</extracomment>
         <source>Upload</source>
-        <translation type="unfinished"></translation>
+        <translation>上傳</translation>
     </message>
     <message>
         <extracomment>read</extracomment>
         <source>Read</source>
-        <translation type="unfinished"></translation>
+        <translation>讀取</translation>
     </message>
     <message>
         <extracomment>write</extracomment>
         <source>Write</source>
-        <translation type="unfinished"></translation>
+        <translation>寫入</translation>
     </message>
     <message>
         <extracomment>inLabel</extracomment>
         <source>In</source>
-        <translation type="unfinished"></translation>
+        <translation>接收</translation>
     </message>
     <message>
         <extracomment>outLabel</extracomment>
         <source>Out</source>
-        <translation type="unfinished"></translation>
+        <translation>傳送</translation>
     </message>
     <message>
         <extracomment>volumesFmt</extracomment>
         <source>%@ volumes</source>
-        <translation type="unfinished"></translation>
+        <translation>%@ 個磁碟區</translation>
     </message>
     <message>
         <extracomment>freeFmt</extracomment>
         <source>%@ free</source>
-        <translation type="unfinished"></translation>
+        <translation>可用 %@</translation>
     </message>
     <message>
         <extracomment>ofFmt</extracomment>
@@ -146,167 +146,167 @@
     <message>
         <extracomment>fans</extracomment>
         <source>Fans</source>
-        <translation type="unfinished"></translation>
+        <translation>風扇</translation>
     </message>
     <message>
         <extracomment>fanFmt</extracomment>
         <source>Fan %@</source>
-        <translation type="unfinished"></translation>
+        <translation>風扇 %@</translation>
     </message>
     <message>
         <extracomment>temperatures</extracomment>
         <source>Temperatures</source>
-        <translation type="unfinished"></translation>
+        <translation>溫度</translation>
     </message>
     <message>
         <extracomment>health</extracomment>
         <source>Health</source>
-        <translation type="unfinished"></translation>
+        <translation>健康度</translation>
     </message>
     <message>
         <extracomment>cycles</extracomment>
         <source>Cycles</source>
-        <translation type="unfinished"></translation>
+        <translation>循環次數</translation>
     </message>
     <message>
         <extracomment>rpmFmt</extracomment>
         <source>%@ rpm</source>
-        <translation type="unfinished"></translation>
+        <translation>%@ 轉/分</translation>
     </message>
     <message>
         <extracomment>noSensors</extracomment>
         <source>No readable sensors on this Mac.</source>
-        <translation type="unfinished"></translation>
+        <translation>這台 Mac 沒有可讀取的感測器。</translation>
     </message>
     <message>
         <extracomment>charging</extracomment>
         <source>Charging</source>
-        <translation type="unfinished"></translation>
+        <translation>充電中</translation>
     </message>
     <message>
         <extracomment>chargingToFull</extracomment>
         <source>Charging · %@</source>
-        <translation type="unfinished"></translation>
+        <translation>充電中 · %@ 後充飽</translation>
     </message>
     <message>
         <extracomment>pluggedIn</extracomment>
         <source>Plugged in</source>
-        <translation type="unfinished"></translation>
+        <translation>已接上電源</translation>
     </message>
     <message>
         <extracomment>timeLeft</extracomment>
         <source>%@ left</source>
-        <translation type="unfinished"></translation>
+        <translation>剩餘 %@</translation>
     </message>
     <message>
         <extracomment>onBattery</extracomment>
         <source>On battery</source>
-        <translation type="unfinished"></translation>
+        <translation>使用電池</translation>
     </message>
     <message>
         <extracomment>activityMonitor</extracomment>
         <source>Activity Monitor</source>
-        <translation type="unfinished"></translation>
+        <translation>活動監視器</translation>
     </message>
     <message>
         <extracomment>quit</extracomment>
         <source>Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>結束</translation>
     </message>
     <message>
         <extracomment>yourMac</extracomment>
         <source>Your Mac</source>
-        <translation type="unfinished"></translation>
+        <translation>你的 Mac</translation>
     </message>
     <message>
         <extracomment>general</extracomment>
         <source>General</source>
-        <translation type="unfinished"></translation>
+        <translation>一般</translation>
     </message>
     <message>
         <extracomment>launchAtLogin</extracomment>
         <source>Launch at login</source>
-        <translation type="unfinished"></translation>
+        <translation>登入時啟動</translation>
     </message>
     <message>
         <extracomment>refreshEvery</extracomment>
         <source>Refresh every</source>
-        <translation type="unfinished"></translation>
+        <translation>更新間隔</translation>
     </message>
     <message>
         <extracomment>sec1</extracomment>
         <source>1 second</source>
-        <translation type="unfinished"></translation>
+        <translation>1 秒</translation>
     </message>
     <message>
         <extracomment>sec2</extracomment>
         <source>2 seconds</source>
-        <translation type="unfinished"></translation>
+        <translation>2 秒</translation>
     </message>
     <message>
         <extracomment>sec5</extracomment>
         <source>5 seconds</source>
-        <translation type="unfinished"></translation>
+        <translation>5 秒</translation>
     </message>
     <message>
         <extracomment>temperature</extracomment>
         <source>Temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>溫度單位</translation>
     </message>
     <message>
         <extracomment>celsius</extracomment>
         <source>Celsius (°C)</source>
-        <translation type="unfinished"></translation>
+        <translation>攝氏（°C）</translation>
     </message>
     <message>
         <extracomment>fahrenheit</extracomment>
         <source>Fahrenheit (°F)</source>
-        <translation type="unfinished"></translation>
+        <translation>華氏（°F）</translation>
     </message>
     <message>
         <extracomment>personality</extracomment>
         <source>Personality</source>
-        <translation type="unfinished"></translation>
+        <translation>個性</translation>
     </message>
     <message>
         <extracomment>showMood</extracomment>
         <source>Show mood in menu bar</source>
-        <translation type="unfinished"></translation>
+        <translation>在選單列顯示心情</translation>
     </message>
     <message>
         <extracomment>petName</extracomment>
         <source>Pet name (optional)</source>
-        <translation type="unfinished"></translation>
+        <translation>暱稱（選填）</translation>
     </message>
     <message>
         <extracomment>petPlaceholder</extracomment>
         <source>e.g. Pixel</source>
-        <translation type="unfinished"></translation>
+        <translation>例如：阿皮</translation>
     </message>
     <message>
         <extracomment>petHint</extracomment>
         <source>Shown above the mood in the panel.</source>
-        <translation type="unfinished"></translation>
+        <translation>會顯示在面板的心情上方。</translation>
     </message>
     <message>
         <extracomment>savageMode</extracomment>
         <source>Savage Mode</source>
-        <translation type="unfinished"></translation>
+        <translation>毒舌模式</translation>
     </message>
     <message>
         <extracomment>savageModeHint</extracomment>
         <source>Tap a module and it roasts you. Not for the sensitive.</source>
-        <translation type="unfinished"></translation>
+        <translation>點一下模組，它就會嗆你。玻璃心慎入。</translation>
     </message>
     <message>
         <extracomment>modulesInPanel</extracomment>
         <source>Modules in panel</source>
-        <translation type="unfinished"></translation>
+        <translation>面板中的模組</translation>
     </message>
     <message>
         <extracomment>language</extracomment>
         <source>Language</source>
-        <translation type="unfinished"></translation>
+        <translation>語言</translation>
     </message>
     <message>
         <extracomment>autoLanguage</extracomment>
@@ -316,12 +316,12 @@
     <message>
         <extracomment>about</extracomment>
         <source>About</source>
-        <translation type="unfinished"></translation>
+        <translation>關於</translation>
     </message>
     <message>
         <extracomment>versionFmt</extracomment>
         <source>Version %@</source>
-        <translation type="unfinished"></translation>
+        <translation>版本 %@</translation>
     </message>
     <message>
         <extracomment>tagline</extracomment>
@@ -331,147 +331,147 @@
     <message>
         <extracomment>checkForUpdates</extracomment>
         <source>Check for Updates…</source>
-        <translation type="unfinished"></translation>
+        <translation>檢查更新…</translation>
     </message>
     <message>
         <extracomment>autoUpdate</extracomment>
         <source>Check for updates automatically</source>
-        <translation type="unfinished"></translation>
+        <translation>自動檢查更新</translation>
     </message>
     <message>
         <extracomment>processes</extracomment>
         <source>Processes</source>
-        <translation type="unfinished"></translation>
+        <translation>處理程序</translation>
     </message>
     <message>
         <extracomment>topProcesses</extracomment>
         <source>Top Processes</source>
-        <translation type="unfinished"></translation>
+        <translation>處理程序排行</translation>
     </message>
     <message>
         <extracomment>last60s</extracomment>
         <source>last 60s</source>
-        <translation type="unfinished"></translation>
+        <translation>最近 60 秒</translation>
     </message>
     <message>
         <extracomment>peakFmt</extracomment>
         <source>peak %@</source>
-        <translation type="unfinished"></translation>
+        <translation>峰值 %@</translation>
     </message>
     <message>
         <extracomment>power</extracomment>
         <source>Power</source>
-        <translation type="unfinished"></translation>
+        <translation>功耗</translation>
     </message>
     <message>
         <extracomment>totalLabel</extracomment>
         <source>Total</source>
-        <translation type="unfinished"></translation>
+        <translation>總計</translation>
     </message>
     <message>
         <extracomment>compBattery</extracomment>
         <source>Battery</source>
-        <translation type="unfinished"></translation>
+        <translation>電池</translation>
     </message>
     <message>
         <extracomment>justWokeUp</extracomment>
         <source>just woke up</source>
-        <translation type="unfinished"></translation>
+        <translation>剛睡醒</translation>
     </message>
     <message>
         <extracomment>soHot</extracomment>
         <source>so hot!</source>
-        <translation type="unfinished"></translation>
+        <translation>好熱！</translation>
     </message>
     <message>
         <extracomment>runningLow</extracomment>
         <source>running low</source>
-        <translation type="unfinished"></translation>
+        <translation>快沒電了</translation>
     </message>
     <message>
         <extracomment>memoryFull</extracomment>
         <source>memory full</source>
-        <translation type="unfinished"></translation>
+        <translation>記憶體滿了</translation>
     </message>
     <message>
         <extracomment>swappingHard</extracomment>
         <source>swapping hard</source>
-        <translation type="unfinished"></translation>
+        <translation>狂用置換中</translation>
     </message>
     <message>
         <extracomment>phew</extracomment>
         <source>phew…</source>
-        <translation type="unfinished"></translation>
+        <translation>呼……</translation>
     </message>
     <message>
         <extracomment>allCoresBlazing</extracomment>
         <source>all cores blazing</source>
-        <translation type="unfinished"></translation>
+        <translation>全核火力全開</translation>
     </message>
     <message>
         <extracomment>workingHard</extracomment>
         <source>working hard</source>
-        <translation type="unfinished"></translation>
+        <translation>拚命工作中</translation>
     </message>
     <message>
         <extracomment>gobblingData</extracomment>
         <source>gobbling data</source>
-        <translation type="unfinished"></translation>
+        <translation>狂吞資料</translation>
     </message>
     <message>
         <extracomment>dataFeast</extracomment>
         <source>data feast!</source>
-        <translation type="unfinished"></translation>
+        <translation>資料吃到飽！</translation>
     </message>
     <message>
         <extracomment>beamingUp</extracomment>
         <source>beaming up</source>
-        <translation type="unfinished"></translation>
+        <translation>咻咻上傳中</translation>
     </message>
     <message>
         <extracomment>warmingUp</extracomment>
         <source>warming up</source>
-        <translation type="unfinished"></translation>
+        <translation>有點熱了</translation>
     </message>
     <message>
         <extracomment>refueling</extracomment>
         <source>refueling</source>
-        <translation type="unfinished"></translation>
+        <translation>充電補血中</translation>
     </message>
     <message>
         <extracomment>cruising</extracomment>
         <source>cruising</source>
-        <translation type="unfinished"></translation>
+        <translation>跑得很順</translation>
     </message>
     <message>
         <extracomment>almostPacked</extracomment>
         <source>almost packed</source>
-        <translation type="unfinished"></translation>
+        <translation>快塞滿了</translation>
     </message>
     <message>
         <extracomment>sleepy</extracomment>
         <source>sleepy</source>
-        <translation type="unfinished"></translation>
+        <translation>好睏</translation>
     </message>
     <message>
         <extracomment>dozingOff</extracomment>
         <source>dozing off</source>
-        <translation type="unfinished"></translation>
+        <translation>打瞌睡中</translation>
     </message>
     <message>
         <extracomment>allChill</extracomment>
         <source>all chill</source>
-        <translation type="unfinished"></translation>
+        <translation>悠哉悠哉</translation>
     </message>
     <message>
         <extracomment>peaceful</extracomment>
         <source>peaceful</source>
-        <translation type="unfinished"></translation>
+        <translation>風平浪靜</translation>
     </message>
     <message>
         <extracomment>wakingUp</extracomment>
         <source>waking up</source>
-        <translation type="unfinished"></translation>
+        <translation>起床中</translation>
     </message>
     <message>
         <extracomment>stopPoking</extracomment>
@@ -481,17 +481,17 @@
     <message>
         <extracomment>glovesOff</extracomment>
         <source>gloves off!</source>
-        <translation type="unfinished"></translation>
+        <translation>不客氣了！</translation>
     </message>
     <message>
         <extracomment>beingNice</extracomment>
         <source>being nice again</source>
-        <translation type="unfinished"></translation>
+        <translation>又變乖了</translation>
     </message>
     <message>
         <extracomment>reasonStartingUp</extracomment>
         <source>starting up</source>
-        <translation type="unfinished"></translation>
+        <translation>正在啟動</translation>
     </message>
     <message>
         <extracomment>reasonFromHeat</extracomment>
@@ -501,57 +501,57 @@
     <message>
         <extracomment>reasonFromBattery</extracomment>
         <source>from %@ battery</source>
-        <translation type="unfinished"></translation>
+        <translation>因為電量 %@</translation>
     </message>
     <message>
         <extracomment>reasonFromMemory</extracomment>
         <source>from %@ memory use</source>
-        <translation type="unfinished"></translation>
+        <translation>因為記憶體用量 %@</translation>
     </message>
     <message>
         <extracomment>reasonFromSwap</extracomment>
         <source>from %@ swap</source>
-        <translation type="unfinished"></translation>
+        <translation>因為置換用了 %@</translation>
     </message>
     <message>
         <extracomment>reasonJustCooled</extracomment>
         <source>just cooled down</source>
-        <translation type="unfinished"></translation>
+        <translation>剛降溫</translation>
     </message>
     <message>
         <extracomment>reasonFromCores</extracomment>
         <source>from %@ cores maxed</source>
-        <translation type="unfinished"></translation>
+        <translation>因為 %@ 核心滿載</translation>
     </message>
     <message>
         <extracomment>reasonFromCPU</extracomment>
         <source>from %@ CPU load</source>
-        <translation type="unfinished"></translation>
+        <translation>因為 CPU 負載 %@</translation>
     </message>
     <message>
         <extracomment>reasonFromDown</extracomment>
         <source>from %@ down</source>
-        <translation type="unfinished"></translation>
+        <translation>因為下載 %@</translation>
     </message>
     <message>
         <extracomment>reasonFromUp</extracomment>
         <source>from %@ up</source>
-        <translation type="unfinished"></translation>
+        <translation>因為上傳 %@</translation>
     </message>
     <message>
         <extracomment>reasonFromWarmth</extracomment>
         <source>from %@ warmth</source>
-        <translation type="unfinished"></translation>
+        <translation>因為溫度 %@</translation>
     </message>
     <message>
         <extracomment>reasonBarelyLoad</extracomment>
         <source>barely any load</source>
-        <translation type="unfinished"></translation>
+        <translation>幾乎沒有負載</translation>
     </message>
     <message>
         <extracomment>reasonStartupDiskFull</extracomment>
         <source>startup disk %@ full</source>
-        <translation type="unfinished"></translation>
+        <translation>開機磁碟已用 %@</translation>
     </message>
     <message>
         <extracomment>reasonIdleNight</extracomment>
@@ -561,67 +561,67 @@
     <message>
         <extracomment>reasonIdleWhile</extracomment>
         <source>idle for a while</source>
-        <translation type="unfinished"></translation>
+        <translation>閒置一陣子了</translation>
     </message>
     <message>
         <extracomment>reasonLightLoad</extracomment>
         <source>light load</source>
-        <translation type="unfinished"></translation>
+        <translation>負載很輕</translation>
     </message>
     <message>
         <extracomment>reasonPokedTooMuch</extracomment>
         <source>poked way too much</source>
-        <translation type="unfinished"></translation>
+        <translation>被戳太多次了</translation>
     </message>
     <message>
         <extracomment>reasonSavageOn</extracomment>
         <source>savage mode on</source>
-        <translation type="unfinished"></translation>
+        <translation>毒舌模式已開啟</translation>
     </message>
     <message>
         <extracomment>reasonSavageOff</extracomment>
         <source>savage mode off</source>
-        <translation type="unfinished"></translation>
+        <translation>毒舌模式已關閉</translation>
     </message>
     <message>
         <extracomment>holNewYear</extracomment>
         <source>happy new year!</source>
-        <translation type="unfinished"></translation>
+        <translation>新年快樂！</translation>
     </message>
     <message>
         <extracomment>holValentines</extracomment>
         <source>happy valentine’s</source>
-        <translation type="unfinished"></translation>
+        <translation>情人節快樂</translation>
     </message>
     <message>
         <extracomment>holHalloween</extracomment>
         <source>happy halloween</source>
-        <translation type="unfinished"></translation>
+        <translation>萬聖節快樂</translation>
     </message>
     <message>
         <extracomment>holChristmas</extracomment>
         <source>merry christmas</source>
-        <translation type="unfinished"></translation>
+        <translation>聖誕快樂</translation>
     </message>
     <message>
         <extracomment>holSpring</extracomment>
         <source>happy spring festival</source>
-        <translation type="unfinished"></translation>
+        <translation>新春快樂</translation>
     </message>
     <message>
         <extracomment>holDragonBoat</extracomment>
         <source>happy dragon boat</source>
-        <translation type="unfinished"></translation>
+        <translation>端午節快樂</translation>
     </message>
     <message>
         <extracomment>holMidAutumn</extracomment>
         <source>happy mid-autumn</source>
-        <translation type="unfinished"></translation>
+        <translation>中秋節快樂</translation>
     </message>
     <message>
         <extracomment>holCheer</extracomment>
         <source>let’s celebrate</source>
-        <translation type="unfinished"></translation>
+        <translation>一起慶祝吧</translation>
     </message>
 </context>
 </TS>
