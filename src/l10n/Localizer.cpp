@@ -114,11 +114,32 @@ AppLanguage Localizer::languageForTag(const QString &tag)
     return AppLanguage::en;
 }
 
+AppLanguage Localizer::languageForPreferred(const QStringList &preferred)
+{
+    if (preferred.isEmpty())
+        return AppLanguage::en;
+    // Qt spells one preference several ways in a row ("zh-TW", then
+    // "zh-Hant-TW"). Only the first preference counts, but where Qt also
+    // gives it with its script, that spelling says which Chinese is meant.
+    const QString first = preferred.first();
+    const QString language = first.section(u'-', 0, 0);
+    QString chosen = first;
+    for (const QString &tag : preferred) {
+        if (tag.section(u'-', 0, 0) != language)
+            break;
+        const QString script = tag.section(u'-', 1, 1);
+        if (script.size() == 4 && script.front().isUpper()) {
+            chosen = tag;
+            break;
+        }
+    }
+    return languageForTag(chosen);
+}
+
 AppLanguage Localizer::systemLanguage()
 {
     // Qt builds this list from LANGUAGE, LC_ALL, LC_MESSAGES and LANG.
-    const QStringList preferred = QLocale::system().uiLanguages();
-    return languageForTag(preferred.isEmpty() ? QStringLiteral("en") : preferred.first());
+    return languageForPreferred(QLocale::system().uiLanguages());
 }
 
 std::optional<QString> Localizer::tableText(LocKey key, AppLanguage lang)

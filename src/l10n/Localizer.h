@@ -42,6 +42,8 @@ public:
     static AppLanguage systemLanguage();
     // The mapping of one language tag (zh-Hant-TW → zhHant, de → en).
     static AppLanguage languageForTag(const QString &tag);
+    // The language for an ordered list of preferred tags, as Qt reports them.
+    static AppLanguage languageForPreferred(const QStringList &preferred);
 
     // The text for `key` in the concrete language, each "%@" filled in order
     // by the arguments; without arguments the text is returned as written.

@@ -1,0 +1,102 @@
+#include "common/TestSupport.h"
+
+#include "app/Settings.h"
+#include "l10n/Localizer.h"
+#include "model/SystemMonitor.h"
+
+#include <QFile>
+#include <QSettings>
+#include <QTest>
+
+class SettingsTest : public QObject {
+    Q_OBJECT
+private slots:
+    void init() { TestSupport::clearSettings(); }
+    void cleanup() { TestSupport::clearSettings(); }
+
+    void defaultsWhenAbsent()
+    {
+        using Settings::Key;
+        QCOMPARE(Settings::number(Key::refreshInterval), 1.0);
+        QCOMPARE(Settings::text(Key::appLanguage), u"system"_qs);
+        QCOMPARE(Settings::flag(Key::useFahrenheit), false);
+        QCOMPARE(Settings::flag(Key::moodEnabled), true);
+        QCOMPARE(Settings::text(Key::petName), QString());
+        QCOMPARE(Settings::flag(Key::savageMode), false);
+        QCOMPARE(Settings::flag(Key::launchAtLogin), false);
+        for (Key k : {Key::showCPU, Key::showMemory, Key::showNetwork, Key::showDisk, Key::showSensors,
+                      Key::showProcesses})
+            QVERIFY(Settings::flag(k));
+        QCOMPARE(Settings::flag(Key::migratedFromLegacyBundleID), false);
+        QCOMPARE(Settings::all().size(), 14);
+    }
+
+    void startingUpWritesNothing()
+    {
+        ManualScheduler clock;
+        SystemMonitor monitor(std::make_shared<EmptySamplers>(), clock);
+        monitor.tick();
+        Localizer::shared().reload();
+        Localizer::shared().t(LocKey::tagline);
+        Settings::store().sync();
+        QVERIFY(Settings::store().allKeys().isEmpty());
+    }
+
+    void storedInTheSulkboxFile()
+    {
+        Settings::set(Settings::Key::petName, u"Pixel"_qs);
+        Settings::store().sync();
+        QCOMPARE(Settings::store().fileName(), TestSupport::settingsFolder() + u"/sulkbox/sulkbox.conf"_qs);
+        QSettings reader(Settings::store().fileName(), QSettings::IniFormat);
+        QCOMPARE(reader.value(u"petName"_qs).toString(), u"Pixel"_qs);
+    }
+
+    void damagedValuesFallBackToDefaults()
+    {
+        using Settings::Key;
+        Settings::set(Key::moodEnabled, u"purple"_qs);
+        Settings::set(Key::useFahrenheit, u"true"_qs);
+        Settings::set(Key::showDisk, 0);
+        Settings::set(Key::refreshInterval, u"soon"_qs);
+        Settings::set(Key::petName, QVariantList{1, 2});
+        QCOMPARE(Settings::flag(Key::moodEnabled), true);
+        QCOMPARE(Settings::flag(Key::useFahrenheit), true);
+        QCOMPARE(Settings::flag(Key::showDisk), false);
+        QCOMPARE(Settings::number(Key::refreshInterval), 1.0);
+        QCOMPARE(Settings::text(Key::petName), QString());
+    }
+
+    void aDamagedFileIsReadAndKept()
+    {
+        // Garbage lines in the user's file must not stop the reader, and
+        // reading must not rewrite what the user saved.
+        Settings::store().sync();
+        const QString path = Settings::store().fileName();
+        QFile file(path);
+        QVERIFY(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
+        const QByteArray damaged = "[General]\npetName=Rex\n\x01\x02garbage\x00line\nrefreshInterval=2\n=\n[[[\n";
+        file.write(damaged);
+        file.close();
+        QSettings fresh(path, QSettings::IniFormat);
+        QCOMPARE(fresh.value(u"petName"_qs).toString(), u"Rex"_qs);
+        QCOMPARE(fresh.value(u"refreshInterval"_qs).toDouble(), 2.0);
+        fresh.sync();
+        QFile again(path);
+        QVERIFY(again.open(QIODevice::ReadOnly));
+        QCOMPARE(again.readAll(), damaged);
+    }
+
+    void overridesNeverReachTheFile()
+    {
+        Settings::overrideForThisRun(Settings::Key::useFahrenheit, true);
+        QVERIFY(Settings::flag(Settings::Key::useFahrenheit));
+        Settings::store().sync();
+        QVERIFY(!Settings::store().contains(u"useFahrenheit"_qs));
+        Settings::clearOverrides();
+        QVERIFY(!Settings::flag(Settings::Key::useFahrenheit));
+    }
+};
+
+SULK_TEST(SettingsTest)
+
+#include "SettingsTest.moc"

@@ -1,0 +1,88 @@
+#include "common/TestSupport.h"
+
+#include "app/Settings.h"
+#include "l10n/Fmt.h"
+
+#include <QLocale>
+#include <QTest>
+
+#include <clocale>
+
+class FmtTest : public QObject {
+    Q_OBJECT
+
+    // Runs every boundary case; called under the C locale and under German.
+    void checkBoundaries()
+    {
+        QCOMPARE(Fmt::bytes(0, 1), u"0.0 B"_qs);
+        QCOMPARE(Fmt::bytes(999, 0), u"999 B"_qs);
+        QCOMPARE(Fmt::bytes(1000, 1), u"1.0 KB"_qs);
+        QCOMPARE(Fmt::bytes(512, 0), u"512 B"_qs);
+        QCOMPARE(Fmt::bytes(1234567, 1), u"1.2 MB"_qs);
+        QCOMPARE(Fmt::bytes(999999, 0), u"1000 KB"_qs);
+        QCOMPARE(Fmt::bytes(1e6, 0), u"1 MB"_qs);
+        QCOMPARE(Fmt::bytes(1e15, 1), u"1.0 PB"_qs);
+        QCOMPARE(Fmt::bytes(1e18, 0), u"1000 PB"_qs);
+        QCOMPARE(Fmt::percent(0, 0), u"0%"_qs);
+        QCOMPARE(Fmt::percent(0.423, 0), u"42%"_qs);
+        QCOMPARE(Fmt::percent(0.4237, 1), u"42.4%"_qs);
+        QCOMPARE(Fmt::percent(1.5, 0), u"150%"_qs);
+        QCOMPARE(Fmt::watts(0), u"0 mW"_qs);
+        QCOMPARE(Fmt::watts(0.25), u"250 mW"_qs);
+        QCOMPARE(Fmt::watts(0.9996), u"1000 mW"_qs);
+        QCOMPARE(Fmt::watts(1.0), u"1.0 W"_qs);
+        QCOMPARE(Fmt::watts(12.34), u"12.3 W"_qs);
+        QCOMPARE(Fmt::minutes(-1), u"\u2014"_qs);
+        QCOMPARE(Fmt::minutes(0), u"\u2014"_qs);
+        QCOMPARE(Fmt::minutes(45), u"45m"_qs);
+        QCOMPARE(Fmt::minutes(59), u"59m"_qs);
+        QCOMPARE(Fmt::minutes(60), u"1h 0m"_qs);
+        QCOMPARE(Fmt::minutes(65), u"1h 5m"_qs);
+        QCOMPARE(Fmt::temp(0), u"0°"_qs);
+        QCOMPARE(Fmt::temp(45.6), u"46°"_qs);
+        Settings::set(Settings::Key::useFahrenheit, true);
+        QCOMPARE(Fmt::temp(0), u"32°F"_qs);
+        QCOMPARE(Fmt::temp(45.6), u"114°F"_qs);
+        Settings::set(Settings::Key::useFahrenheit, false);
+        QCOMPARE(Fmt::temp(-3.4), u"-3°"_qs);
+    }
+
+private slots:
+    void init() { TestSupport::clearSettings(); }
+
+    void boundaries() { checkBoundaries(); }
+
+    void roundsAsPrintfDoes()
+    {
+        // Halfway cases round to even on the exact binary value.
+        QCOMPARE(Fmt::fixed(0.125, 2), u"0.12"_qs);
+        QCOMPARE(Fmt::fixed(0.375, 2), u"0.38"_qs);
+        QCOMPARE(Fmt::fixed(2.5, 0), u"2"_qs);
+        QCOMPARE(Fmt::fixed(1.005, 2), u"1.00"_qs); // 1.005 is just below in binary
+    }
+
+    void absurdValuesStayReadable()
+    {
+        QCOMPARE(Fmt::bytes(qQNaN(), 1), u"0.0 B"_qs);
+        QCOMPARE(Fmt::bytes(qInf(), 0), u"0 B"_qs);
+        QCOMPARE(Fmt::bytes(-5, 0), u"-5 B"_qs);
+        QCOMPARE(Fmt::percent(qQNaN(), 0), u"0%"_qs);
+        QCOMPARE(Fmt::bytes(1e300, 0).right(3), u" PB"_qs);
+    }
+
+    void germanLocaleKeepsTheDecimalPoint()
+    {
+        const QByteArray previous = std::setlocale(LC_ALL, nullptr);
+        const bool german = std::setlocale(LC_ALL, "de_DE.UTF-8") != nullptr;
+        QVERIFY2(german, "the de_DE.UTF-8 locale is not installed (scripts/deps.sh generates it)");
+        const QLocale before;
+        QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
+        checkBoundaries();
+        QLocale::setDefault(before);
+        std::setlocale(LC_ALL, previous.constData());
+    }
+};
+
+SULK_TEST(FmtTest)
+
+#include "FmtTest.moc"

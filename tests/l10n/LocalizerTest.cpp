@@ -1,0 +1,226 @@
+#include "common/TestSupport.h"
+
+#include "app/Settings.h"
+#include "l10n/Localizer.h"
+
+#include <QRegularExpression>
+#include <QSet>
+#include <QSignalSpy>
+#include <QTest>
+
+namespace {
+
+int placeholders(const QString &text)
+{
+    return int(text.count(QStringLiteral("%@")));
+}
+
+const QList<AppLanguage> translated = {AppLanguage::zhHans, AppLanguage::zhHant, AppLanguage::ja,
+                                       AppLanguage::ko, AppLanguage::th};
+
+const QSet<LocKey> keysWithoutRow = {LocKey::gpuUsage, LocKey::compSSD, LocKey::compWiFi, LocKey::empty};
+
+struct LanguageGuard {
+    LanguageGuard(AppLanguage lang) { Localizer::shared().setLanguage(lang); }
+    ~LanguageGuard() { Localizer::shared().setLanguage(AppLanguage::system); }
+};
+
+} // namespace
+
+class LocKeyTest : public QObject {
+    Q_OBJECT
+private slots:
+    void keysInOrderWithDistinctTexts()
+    {
+        QCOMPARE(locKeyCount, 128);
+        QCOMPARE(keyName(LocKey::memory), QStringLiteral("memory"));
+        QCOMPARE(int(LocKey::memory), 0);
+        QCOMPARE(int(LocKey::tagline), 64);
+        QCOMPARE(int(LocKey::holCheer), 126);
+        QCOMPARE(int(LocKey::empty), 127);
+        QSet<QString> texts;
+        for (LocKey key : allLocKeys())
+            texts.insert(rawValue(key));
+        QCOMPARE(texts.size(), locKeyCount);
+        QCOMPARE(rawValue(LocKey::empty), QString());
+        QCOMPARE(rawValue(LocKey::holValentines), QStringLiteral("happy valentine\u2019s"));
+        QCOMPARE(locKeyFromRaw(QStringLiteral("Cores (%@)")), std::optional<LocKey>(LocKey::coresCount));
+        QVERIFY(!locKeyFromRaw(QStringLiteral("nope")).has_value());
+    }
+
+    void onlyOfFmtHasTwoPlaceholders()
+    {
+        int formats = 0;
+        for (LocKey key : allLocKeys()) {
+            const int n = placeholders(rawValue(key));
+            QVERIFY2(n <= 1 || key == LocKey::ofFmt, qPrintable(keyName(key)));
+            formats += n > 0;
+        }
+        QCOMPARE(formats, 22);
+    }
+};
+
+class TranslationTableTest : public QObject {
+    Q_OBJECT
+private slots:
+    void everyRowHoldsTheFiveLanguages()
+    {
+        int rows = 0;
+        for (LocKey key : allLocKeys()) {
+            if (keysWithoutRow.contains(key)) {
+                for (AppLanguage lang : translated)
+                    QVERIFY2(!Localizer::tableText(key, lang), qPrintable(keyName(key)));
+                continue;
+            }
+            ++rows;
+            for (AppLanguage lang : translated) {
+                const auto text = Localizer::tableText(key, lang);
+                const QString where = keyName(key) + u'/' + languageRawText(lang);
+                QVERIFY2(text.has_value(), qPrintable(where + QStringLiteral(" missing")));
+                QVERIFY2(!text->trimmed().isEmpty(), qPrintable(where + QStringLiteral(" empty")));
+                QVERIFY2(!text->contains(u'\n'), qPrintable(where + QStringLiteral(" not one line")));
+                QVERIFY2(placeholders(*text) == placeholders(rawValue(key)),
+                         qPrintable(where + QStringLiteral(" placeholder count")));
+            }
+            QVERIFY(!Localizer::tableText(key, AppLanguage::en));
+            QVERIFY(!Localizer::tableText(key, AppLanguage::system));
+        }
+        QCOMPARE(rows, 124);
+    }
+
+    void fixedRowsAreVerbatim_data()
+    {
+        QTest::addColumn<LocKey>("key");
+        QTest::addColumn<QStringList>("texts"); // zhHans, zhHant, ja, ko, th
+        QTest::newRow("tagline") << LocKey::tagline
+                                 << QStringList{u"让你的 Mac 有点小情绪。"_qs, u"讓你的 Mac 有點小情緒。"_qs,
+                                                u"感情を持った Mac。"_qs, u"감정이 있는 당신의 Mac."_qs,
+                                                u"Mac ของคุณ ที่มีความรู้สึก"_qs};
+        QTest::newRow("freedFmt") << LocKey::freedFmt
+                                  << QStringList{u"释放了 %@"_qs, u"釋放了 %@"_qs, u"%@ 解放"_qs, u"%@ 정리됨"_qs,
+                                                 u"เคลียร์ไป %@"_qs};
+        QTest::newRow("ofFmt") << LocKey::ofFmt
+                               << QStringList{u"%@ / %@"_qs, u"%@ / %@"_qs, u"%@ / %@"_qs, u"%@ / %@"_qs,
+                                              u"%@ / %@"_qs};
+        QTest::newRow("stopPoking") << LocKey::stopPoking
+                                    << QStringList{u"别戳啦！"_qs, u"別戳啦！"_qs, u"つつかないで！"_qs,
+                                                   u"그만 찔러!"_qs, u"หยุดจิ้มได้แล้ว!"_qs};
+        QTest::newRow("reasonFromHeat") << LocKey::reasonFromHeat
+                                        << QStringList{u"因为 %@ 高温"_qs, u"因為 %@ 高溫"_qs, u"%@ の高温"_qs,
+                                                       u"%@ 고온"_qs, u"เพราะร้อน %@"_qs};
+        QTest::newRow("reasonIdleNight") << LocKey::reasonIdleNight
+                                         << QStringList{u"空闲 · 深夜"_qs, u"閒置 · 深夜"_qs,
+                                                        u"アイドル · 深夜"_qs, u"유휴 · 늦은 밤"_qs,
+                                                        u"ว่าง · ดึกแล้ว"_qs};
+        QTest::newRow("autoLanguage") << LocKey::autoLanguage
+                                      << QStringList{u"自动（跟随系统）"_qs, u"自動（跟隨系統）"_qs,
+                                                     u"自動（システム）"_qs, u"자동 (시스템)"_qs,
+                                                     u"อัตโนมัติ (ระบบ)"_qs};
+    }
+
+    void fixedRowsAreVerbatim()
+    {
+        QFETCH(LocKey, key);
+        QFETCH(QStringList, texts);
+        for (int i = 0; i < translated.size(); ++i)
+            QCOMPARE(Localizer::tableText(key, translated[i]).value_or(QString()), texts[i]);
+    }
+};
+
+class LocalizerTest : public QObject {
+    Q_OBJECT
+private slots:
+    void init() { TestSupport::clearSettings(); Localizer::shared().reload(); }
+    void cleanup() { TestSupport::clearSettings(); Localizer::shared().reload(); }
+
+    void keysWithoutRowFallBackToEnglish()
+    {
+        for (AppLanguage lang : concreteLanguages()) {
+            LanguageGuard guard(lang);
+            QCOMPARE(Localizer::shared().t(LocKey::gpuUsage), QStringLiteral("GPU"));
+            QCOMPARE(Localizer::shared().t(LocKey::compWiFi), QStringLiteral("Wi-Fi"));
+            QCOMPARE(Localizer::shared().t(LocKey::empty), QString());
+        }
+    }
+
+    void argumentsFillInOrder()
+    {
+        {
+            LanguageGuard guard(AppLanguage::en);
+            QCOMPARE(Localizer::shared().t(LocKey::ofFmt, {u"12 GB"_qs, u"16 GB"_qs}), u"12 GB of 16 GB"_qs);
+            QCOMPARE(Localizer::shared().t(LocKey::freedFmt, {u"1.2 GB"_qs}), u"freed 1.2 GB"_qs);
+            QCOMPARE(Localizer::shared().t(LocKey::tagline), u"Your Mac, with feelings."_qs);
+            // Without arguments the text stays as written.
+            QCOMPARE(Localizer::shared().t(LocKey::freedFmt), u"freed %@"_qs);
+        }
+        {
+            LanguageGuard guard(AppLanguage::ja);
+            QCOMPARE(Localizer::shared().t(LocKey::freedFmt, {u"1.2 GB"_qs}), u"1.2 GB 解放"_qs);
+            QCOMPARE(Localizer::shared().t(LocKey::ofFmt, {u"12 GB"_qs, u"16 GB"_qs}), u"12 GB / 16 GB"_qs);
+        }
+        {
+            LanguageGuard guard(AppLanguage::zhHant);
+            QCOMPARE(Localizer::shared().t(LocKey::stopPoking), u"別戳啦！"_qs);
+        }
+        // An argument that itself holds "%@" is not filled again.
+        QCOMPARE(Localizer::fill(u"%@ and %@"_qs, {u"%@"_qs, u"x"_qs}), u"%@ and x"_qs);
+        QCOMPARE(Localizer::fill(u"100%@"_qs, {u"!"_qs}), u"100!"_qs);
+    }
+
+    void languageIsPersisted()
+    {
+        Localizer &loc = Localizer::shared();
+        QSignalSpy spy(&loc, &Localizer::languageChanged);
+        loc.setLanguage(AppLanguage::ko);
+        QCOMPARE(spy.count(), 1);
+        QCOMPARE(Settings::text(Settings::Key::appLanguage), u"ko"_qs);
+        QCOMPARE(loc.concrete(), AppLanguage::ko);
+
+        Settings::set(Settings::Key::appLanguage, u"fr"_qs);
+        loc.reload();
+        QCOMPARE(loc.language(), AppLanguage::system);
+        QCOMPARE(loc.concrete(), Localizer::systemLanguage());
+    }
+
+    void tagMapping_data()
+    {
+        QTest::addColumn<QString>("tag");
+        QTest::addColumn<AppLanguage>("lang");
+        QTest::newRow("zh-Hant-TW") << u"zh-Hant-TW"_qs << AppLanguage::zhHant;
+        QTest::newRow("zh-Hant-HK") << u"zh-Hant-HK"_qs << AppLanguage::zhHant;
+        QTest::newRow("zh-Hans-CN") << u"zh-Hans-CN"_qs << AppLanguage::zhHans;
+        QTest::newRow("zh-CN") << u"zh-CN"_qs << AppLanguage::zhHans;
+        QTest::newRow("zh-HK") << u"zh-HK"_qs << AppLanguage::zhHans;
+        QTest::newRow("ja-JP") << u"ja-JP"_qs << AppLanguage::ja;
+        QTest::newRow("ko") << u"ko"_qs << AppLanguage::ko;
+        QTest::newRow("th-TH") << u"th-TH"_qs << AppLanguage::th;
+        QTest::newRow("de") << u"de"_qs << AppLanguage::en;
+        QTest::newRow("en-US") << u"en-US"_qs << AppLanguage::en;
+    }
+
+    void tagMapping()
+    {
+        QFETCH(QString, tag);
+        QFETCH(AppLanguage, lang);
+        QCOMPARE(Localizer::languageForTag(tag), lang);
+    }
+
+    void onlyTheFirstPreferenceCounts()
+    {
+        QCOMPARE(Localizer::languageForPreferred({u"de"_qs, u"de-Latn-DE"_qs, u"ja"_qs, u"ja-JP"_qs}),
+                 AppLanguage::en);
+        QCOMPARE(Localizer::languageForPreferred({u"zh-Hant-TW"_qs, u"en"_qs}), AppLanguage::zhHant);
+        QCOMPARE(Localizer::languageForPreferred({u"zh-HK"_qs}), AppLanguage::zhHans);
+        QCOMPARE(Localizer::languageForPreferred({}), AppLanguage::en);
+        // The same preference spelled with its script, as Qt reports zh_TW.
+        QCOMPARE(Localizer::languageForPreferred({u"zh-TW"_qs, u"zh-Hant-TW"_qs, u"en"_qs}), AppLanguage::zhHant);
+        QCOMPARE(Localizer::languageForPreferred({u"ja-JP"_qs, u"ja-Jpan-JP"_qs, u"zh-Hant-TW"_qs}),
+                 AppLanguage::ja);
+    }
+};
+
+SULK_TEST(LocKeyTest)
+SULK_TEST(TranslationTableTest)
+SULK_TEST(LocalizerTest)
+
+#include "LocalizerTest.moc"
