@@ -1,0 +1,292 @@
+// NetworkMonitor over fixture trees: which interfaces count, rates from the
+// 64-bit counters and their quirks, and the primary interface.
+
+#include "FastReaderScratch.h"
+#include "common/TestSupport.h"
+#include "sampling/NetworkMonitor.h"
+
+#include <QTest>
+
+namespace {
+
+struct Counters {
+    QByteArray name;
+    quint64 rx;
+    quint64 tx;
+};
+
+QByteArray devText(const QList<Counters> &rows)
+{
+    QByteArray text = "Inter-|   Receive                                                |  Transmit\n"
+                      " face |bytes    packets errs drop fifo frame compressed multicast|bytes    packets errs "
+                      "drop fifo colls carrier compressed\n";
+    for (const Counters &c : rows) {
+        text += c.name.rightJustified(6) + ": " + QByteArray::number(c.rx) + " 10 0 0 0 0 0 0 "
+            + QByteArray::number(c.tx) + " 20 0 0 0 0 0 0\n";
+    }
+    return text;
+}
+
+QByteArray routeText(const QList<QByteArray> &rows)
+{
+    QByteArray text = "Iface\tDestination\tGateway \tFlags\tRefCnt\tUse\tMetric\tMask\t\tMTU\tWindow\tIRTT\n";
+    for (const QByteArray &row : rows)
+        text += row + '\n';
+    return text;
+}
+
+const NetworkMonitor::AddressList laptopAddresses = {
+    {"lo", "127.0.0.1"}, {"docker0", "172.17.0.1"}, {"wlan0", "192.168.1.23"}, {"tun0", "10.8.0.5"}};
+
+// A monitor over a scratch /proc with the laptop's /sys, on a clock the
+// test moves by hand.
+struct Rig {
+    ScratchTree proc;
+    double now = 1000;
+    NetworkMonitor monitor{proc.asProc(TestSupport::fixture("laptop/sys"))};
+
+    Rig()
+    {
+        monitor.setClock([this] { return now; });
+        monitor.setAddressSource([] { return laptopAddresses; });
+    }
+    bool dev(const QList<Counters> &rows) { return proc.write("net/dev", devText(rows)); }
+};
+
+} // namespace
+
+class NetworkMonitorTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void laptopCountsOnlyPhysicalInterfaces()
+    {
+        NetworkMonitor monitor({TestSupport::fixture("laptop/proc"), TestSupport::fixture("laptop/sys")});
+        monitor.setAddressSource([] { return laptopAddresses; });
+        const NetworkSample s = monitor.read(true);
+        // wlan0 and the unplugged Ethernet port; loopback, the docker bridge,
+        // its veth and the VPN tunnel carry traffic that is counted already.
+        // wlan0's receive counter is past 4 GiB.
+        QCOMPARE(s.totalIn, 9876543210.0);
+        QCOMPARE(s.totalOut, 1234567890.0);
+        QCOMPARE(s.downRate, 0.0);
+        QCOMPARE(s.upRate, 0.0);
+        QCOMPARE(s.primaryInterface, QStringLiteral("wlan0"));
+        QCOMPARE(s.ipv4, QStringLiteral("192.168.1.23"));
+    }
+
+    void ratesOverTheInterval()
+    {
+        Rig rig;
+        QVERIFY(rig.dev({{"lo", 100, 100}, {"wlan0", 4294967000, 5000}, {"docker0", 0, 0}, {"tun0", 0, 0}}));
+        rig.monitor.read(false);
+
+        // Half a second later: 1,000,000 bytes in (across the 4 GiB mark),
+        // 250,000 out. Virtual interfaces moved too and do not count.
+        rig.now += 0.5;
+        QVERIFY(rig.dev({{"lo", 900100, 900100},
+                         {"wlan0", 4295967000, 255000},
+                         {"docker0", 1000000, 1000000},
+                         {"tun0", 1000000, 0}}));
+        NetworkSample s = rig.monitor.read(false);
+        QCOMPARE(s.downRate, 2000000.0);
+        QCOMPARE(s.upRate, 500000.0);
+        QCOMPARE(s.totalIn, 4295967000.0);
+        QCOMPARE(s.totalOut, 255000.0);
+
+        // No time passed: no rate, no division by zero.
+        s = rig.monitor.read(false);
+        QCOMPARE(s.downRate, 0.0);
+        QCOMPARE(s.upRate, 0.0);
+
+        // A long gap gives the average over the gap.
+        rig.now += 100;
+        QVERIFY(rig.dev({{"wlan0", 4296967000, 255000}}));
+        QCOMPARE(rig.monitor.read(false).downRate, 10000.0);
+    }
+
+    void countersThatGoBackwards()
+    {
+        Rig rig;
+        QVERIFY(rig.dev({{"wlan0", 5000000, 5000000}, {"enp0s31f6", 1000, 1000}}));
+        rig.monitor.read(false);
+
+        // wlan0's driver was reloaded and its counters restarted; the Ethernet
+        // port kept counting and still shows.
+        rig.now += 1;
+        QVERIFY(rig.dev({{"wlan0", 1000, 200}, {"enp0s31f6", 3000, 1500}}));
+        NetworkSample s = rig.monitor.read(false);
+        QCOMPARE(s.downRate, 2000.0);
+        QCOMPARE(s.upRate, 500.0);
+        QCOMPARE(s.totalIn, 4000.0);
+
+        // Measured from the lowered counters afterwards.
+        rig.now += 1;
+        QVERIFY(rig.dev({{"wlan0", 6000, 700}, {"enp0s31f6", 3000, 1500}}));
+        s = rig.monitor.read(false);
+        QCOMPARE(s.downRate, 5000.0);
+        QCOMPARE(s.upRate, 500.0);
+    }
+
+    void interfaceThatVanishesAndComesBack()
+    {
+        Rig rig;
+        QVERIFY(rig.dev({{"wlan0", 10000, 10000}, {"enp0s31f6", 900000000, 900000000}}));
+        rig.monitor.read(false);
+
+        // The USB Ethernet adapter is pulled: its large totals leave the sum,
+        // which must not hide what wlan0 did meanwhile.
+        rig.now += 1;
+        QVERIFY(rig.dev({{"wlan0", 12000, 11000}}));
+        NetworkSample s = rig.monitor.read(false);
+        QCOMPARE(s.downRate, 2000.0);
+        QCOMPARE(s.upRate, 1000.0);
+        QCOMPARE(s.totalIn, 12000.0);
+
+        // Plugged in again with its old counters: no burst of 900 MB.
+        rig.now += 1;
+        QVERIFY(rig.dev({{"wlan0", 12000, 11000}, {"enp0s31f6", 900000500, 900000000}}));
+        s = rig.monitor.read(false);
+        QCOMPARE(s.downRate, 0.0);
+        QCOMPARE(s.totalIn, 900012500.0);
+        rig.now += 1;
+        QVERIFY(rig.dev({{"wlan0", 12000, 11000}, {"enp0s31f6", 900001500, 900000000}}));
+        QCOMPARE(rig.monitor.read(false).downRate, 1000.0);
+    }
+
+    void countingChosenInterfaces()
+    {
+        Rig rig;
+        rig.monitor.setCountedInterfaces({QStringLiteral("veth3f2a1b0")});
+        QVERIFY(rig.dev({{"wlan0", 100, 100}, {"veth3f2a1b0", 1000, 2000}}));
+        QCOMPARE(rig.monitor.read(false).totalIn, 1000.0);
+        rig.now += 2;
+        QVERIFY(rig.dev({{"wlan0", 5000, 100}, {"veth3f2a1b0", 3000, 2000}}));
+        QCOMPARE(rig.monitor.read(false).downRate, 1000.0);
+
+        // Back to the physical rule, with the baseline of every interface kept.
+        rig.monitor.setCountedInterfaces({});
+        rig.now += 1;
+        QVERIFY(rig.dev({{"wlan0", 5500, 100}, {"veth3f2a1b0", 9000, 2000}}));
+        const NetworkSample s = rig.monitor.read(false);
+        QCOMPARE(s.downRate, 500.0);
+        QCOMPARE(s.totalIn, 5500.0);
+    }
+
+    void damagedOrMissingCounters()
+    {
+        Rig rig;
+        QVERIFY(rig.dev({{"wlan0", 1000, 1000}}));
+        rig.monitor.read(true);
+
+        // Unreadable: the empty record, not the remembered interface, and the
+        // baseline stays.
+        QVERIFY(rig.proc.remove("net/dev"));
+        rig.now += 1;
+        QCOMPARE(rig.monitor.read(true), NetworkSample{});
+        rig.now += 1;
+        QVERIFY(rig.dev({{"wlan0", 3000, 1000}}));
+        NetworkSample s = rig.monitor.read(false);
+        QCOMPARE(s.downRate, 1000.0);
+        QCOMPARE(s.primaryInterface, QStringLiteral("wlan0"));
+
+        // Lines that cannot be parsed are skipped; the good ones still count.
+        QVERIFY(rig.proc.write("net/dev", devText({{"wlan0", 4000, 1000}}) + "enp0s31f6: 12 x 0 0\n"
+                                              + "wlan0: 999999999 0 0 0 0 0 0 0 999999999 0 0 0 0 0 0 0\n"
+                                              + ": 1 2 3 4 5 6 7 8 9 10\nno colon at all\n"
+                                              + QByteArray(3000, '\0')));
+        rig.now += 1;
+        s = rig.monitor.read(false);
+        QCOMPARE(s.totalIn, 4000.0);
+        QCOMPARE(s.downRate, 1000.0);
+    }
+
+    void primaryInterface()
+    {
+        Rig rig;
+        QVERIFY(rig.dev({{"wlan0", 1, 1}, {"enp0s31f6", 1, 1}, {"tun0", 1, 1}}));
+        const NetworkMonitor::AddressList addresses = {{"docker0", "172.17.0.1"},
+                                                       {"enp0s31f6", "10.0.0.7"},
+                                                       {"wlan0", "192.168.1.23"},
+                                                       {"wlan0", "192.168.1.99"},
+                                                       {"tun0", "10.8.0.5"}};
+        rig.monitor.setAddressSource([&] { return addresses; });
+        auto primary = [&](const QList<QByteArray> &routes) {
+            rig.proc.write("net/route", routeText(routes));
+            const NetworkSample s = rig.monitor.read(true);
+            return std::pair(s.primaryInterface, s.ipv4);
+        };
+        using P = std::pair<QString, QString>;
+
+        // The default route with the lowest metric wins; a route that is not
+        // up, or a non-default one with a lower metric, does not.
+        QCOMPARE(primary({"wlan0\t00000000\t0101A8C0\t0003\t0\t0\t600\t00000000\t0\t0\t0",
+                          "enp0s31f6\t00000000\t0100000A\t0003\t0\t0\t100\t00000000\t0\t0\t0",
+                          "tun0\t00000000\t00000000\t0002\t0\t0\t5\t00000000\t0\t0\t0",
+                          "tun0\t0000080A\t00000000\t0001\t0\t0\t0\t00FFFFFF\t0\t0\t0"}),
+                 P("enp0s31f6", "10.0.0.7"));
+        // A VPN that takes the default route is the primary interface.
+        QCOMPARE(primary({"wlan0\t00000000\t0101A8C0\t0003\t0\t0\t600\t00000000\t0\t0\t0",
+                          "tun0\t00000000\t00000000\t0001\t0\t0\t50\t00000000\t0\t0\t0"}),
+                 P("tun0", "10.8.0.5"));
+        // The first address of the routed interface.
+        QCOMPARE(primary({"wlan0\t00000000\t0101A8C0\t0003\t0\t0\t600\t00000000\t0\t0\t0"}),
+                 P("wlan0", "192.168.1.23"));
+        // Routed through an interface without an IPv4 address.
+        QCOMPARE(primary({"ppp0\t00000000\t00000000\t0001\t0\t0\t0\t00000000\t0\t0\t0"}),
+                 P("ppp0", "\u2014"));
+        // No default route: the first physical interface with an address
+        // (docker0 comes first but is a bridge).
+        QCOMPARE(primary({"wlan0\t0001A8C0\t00000000\t0001\t0\t0\t600\t00FFFFFF\t0\t0\t0", "garbage line",
+                          "x\tzz\tzz\tzz\t0\t0\t0\tzz"}),
+                 P("enp0s31f6", "10.0.0.7"));
+        rig.proc.remove("net/route");
+        QCOMPARE(primary({}), P("enp0s31f6", "10.0.0.7"));
+        // Nothing physical has an address.
+        rig.proc.write("net/route", routeText({}));
+        rig.monitor.setAddressSource([] { return NetworkMonitor::AddressList{{"lo", "127.0.0.1"}}; });
+        QCOMPARE(rig.monitor.read(true).primaryInterface, QStringLiteral("\u2014"));
+    }
+
+    void addressIsLookedUpOnlyWhenAsked()
+    {
+        Rig rig;
+        QVERIFY(rig.proc.copyFixture("laptop/proc/net/dev", "net/dev"));
+        QVERIFY(rig.proc.copyFixture("laptop/proc/net/route", "net/route"));
+        int lookups = 0;
+        rig.monitor.setAddressSource([&] {
+            ++lookups;
+            return laptopAddresses;
+        });
+
+        NetworkSample s = rig.monitor.read(false);
+        QCOMPARE(s.primaryInterface, QStringLiteral("\u2014"));
+        QCOMPARE(s.ipv4, QStringLiteral("\u2014"));
+        QCOMPARE(s.totalIn, 9876543210.0);
+        QCOMPARE(lookups, 0);
+
+        QCOMPARE(rig.monitor.read(true).ipv4, QStringLiteral("192.168.1.23"));
+        QCOMPARE(lookups, 1);
+
+        // The route moves away, but until the next lookup the last answer stays.
+        rig.proc.write("net/route", routeText({"enp0s31f6\t00000000\t0100000A\t0003\t0\t0\t100\t00000000\t0\t0\t0"}));
+        s = rig.monitor.read(false);
+        QCOMPARE(s.primaryInterface, QStringLiteral("wlan0"));
+        QCOMPARE(s.ipv4, QStringLiteral("192.168.1.23"));
+        QCOMPARE(lookups, 1);
+        QCOMPARE(rig.monitor.read(true).primaryInterface, QStringLiteral("enp0s31f6"));
+    }
+
+    void snapshotRootsHaveNoAddresses()
+    {
+        // A captured tree has routes but no live address list to match.
+        NetworkMonitor monitor(SystemRoots::underPrefix(TestSupport::fixture("laptop")));
+        const NetworkSample s = monitor.read(true);
+        QCOMPARE(s.primaryInterface, QStringLiteral("wlan0"));
+        QCOMPARE(s.ipv4, QStringLiteral("\u2014"));
+        QCOMPARE(s.totalOut, 1234567890.0);
+    }
+};
+
+SULK_TEST(NetworkMonitorTest)
+#include "NetworkMonitorTest.moc"
