@@ -1,23 +1,22 @@
 // sulkbox: a desktop system monitor with a personality.
 
-#include <QCommandLineParser>
-#include <QCoreApplication>
+#include "app/Cli.h"
 
-#include <cstdio>
+#include <QCoreApplication>
 
 int main(int argc, char **argv)
 {
-    QCoreApplication app(argc, argv);
+    QStringList arguments;
+    for (int i = 0; i < argc; ++i)
+        arguments.append(QString::fromLocal8Bit(argv[i]));
+
     QCoreApplication::setApplicationName(QStringLiteral("sulkbox"));
     QCoreApplication::setOrganizationName(QStringLiteral("sulkbox"));
     QCoreApplication::setApplicationVersion(QStringLiteral(SULKBOX_VERSION));
 
-    QCommandLineParser parser;
-    parser.setApplicationDescription(QStringLiteral("A desktop system monitor with a personality."));
-    parser.addHelpOption();
-    parser.addVersionOption();
-    parser.process(app);
-
-    std::fputs(qPrintable(parser.helpText()), stdout);
-    return 0;
+    // The command line needs no GUI: a plain core application keeps it small.
+    QCoreApplication app(argc, argv);
+    if (!Cli::wantsCommandLine(arguments))
+        arguments.append(QStringLiteral("--help"));
+    return Cli::run(arguments);
 }

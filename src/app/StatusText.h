@@ -1,0 +1,22 @@
+#pragma once
+// The one-shot summary of `sulkbox status` and the tooltips of `sulkbox bar`:
+// the label line, then one line per module, in the interface language.
+
+#include <QStringList>
+
+class Localizer;
+class Mood;
+class SystemMonitor;
+
+namespace StatusText {
+
+// "😎 all chill · barely any load"
+QString moodLine(const Mood &mood, const Localizer &loc);
+
+// One line per module with the figures the panel shows.
+QStringList moduleLines(const SystemMonitor &monitor, const Localizer &loc);
+
+// The few figures a bar tooltip carries: CPU, memory, network.
+QString headline(const SystemMonitor &monitor, const Localizer &loc);
+
+} // namespace StatusText

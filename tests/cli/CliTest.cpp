@@ -1,0 +1,240 @@
+#include "common/TestSupport.h"
+
+#include "app/Settings.h"
+
+#include <QDir>
+#include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QProcess>
+#include <QRegularExpression>
+#include <QTemporaryDir>
+#include <QTest>
+
+namespace {
+
+struct Run {
+    int exitCode = -1;
+    QProcess::ExitStatus status = QProcess::CrashExit;
+    QByteArray out;
+    QByteArray err;
+};
+
+Run sulkbox(const QStringList &args, int timeoutMs = 20000)
+{
+    QProcess p;
+    p.start(QStringLiteral(SULKBOX_EXE), args);
+    Run r;
+    if (!p.waitForFinished(timeoutMs)) {
+        p.kill();
+        p.waitForFinished();
+    }
+    r.exitCode = p.exitCode();
+    r.status = p.exitStatus();
+    r.out = p.readAllStandardOutput();
+    r.err = p.readAllStandardError();
+    return r;
+}
+
+double memTotalFromProc(const QString &procRoot)
+{
+    QFile f(procRoot + u"/meminfo"_qs);
+    if (!f.open(QIODevice::ReadOnly))
+        return -1;
+    for (const QByteArray &line : f.readAll().split('\n'))
+        if (line.startsWith("MemTotal:"))
+            return line.mid(9).trimmed().split(' ').first().toDouble() * 1024;
+    return -1;
+}
+
+int cpuLinesInProcStat()
+{
+    QFile f(u"/proc/stat"_qs);
+    if (!f.open(QIODevice::ReadOnly))
+        return -1;
+    int n = 0;
+    for (const QByteArray &line : f.readAll().split('\n'))
+        n += line.startsWith("cpu") && line.size() > 3 && line[3] >= '0' && line[3] <= '9';
+    return n;
+}
+
+QJsonObject statusJson(const QStringList &extra = {})
+{
+    const Run r = sulkbox(QStringList{u"status"_qs, u"--json"_qs} + extra);
+    if (r.exitCode != 0)
+        qWarning("status --json failed: %s", r.err.constData());
+    return QJsonDocument::fromJson(r.out).object();
+}
+
+QStringList sensorNames(const QJsonObject &status)
+{
+    QStringList names;
+    for (const QJsonValue &t : status[u"sensors"_qs][u"temperatures"_qs].toArray())
+        names.append(t[u"name"_qs].toString());
+    return names;
+}
+
+} // namespace
+
+class CliTest : public QObject {
+    Q_OBJECT
+private slots:
+    void init() { TestSupport::clearSettings(); }
+
+    void statusJsonMatchesTheKernel()
+    {
+        const QJsonObject status = statusJson();
+        QVERIFY(!status.isEmpty());
+        QCOMPARE(status[u"memory"_qs][u"total"_qs].toDouble(), memTotalFromProc(u"/proc"_qs));
+        QCOMPARE(status[u"cpu"_qs][u"perCore"_qs].toArray().size(), cpuLinesInProcStat());
+        const QJsonObject mood = status[u"mood"_qs].toObject();
+        QVERIFY(!mood[u"emoji"_qs].toString().isEmpty());
+        // A one-shot never shows the start-up greeting.
+        QVERIFY(mood[u"phraseKey"_qs].toString() != u"justWokeUp");
+        QVERIFY(status[u"memory"_qs][u"pressure"_qs].toDouble() <= 1.0);
+    }
+
+    void statusSpeaksTheChosenLanguage()
+    {
+        const Run r = sulkbox({u"status"_qs, u"--lang"_qs, u"ja"_qs});
+        QCOMPARE(r.exitCode, 0);
+        const QString text = QString::fromUtf8(r.out);
+        QVERIFY2(text.contains(u"メモリ"_qs), qPrintable(text));
+        QVERIFY(text.contains(u"ネットワーク"_qs));
+        // The settings file is never written by an override.
+        Settings::store().sync();
+        QVERIFY(!QFile::exists(Settings::store().fileName()) || !Settings::store().contains(u"appLanguage"_qs));
+
+        const Run english = sulkbox({u"status"_qs, u"--lang"_qs, u"en"_qs});
+        QVERIFY(QString::fromUtf8(english.out).contains(u"Memory"_qs));
+    }
+
+    void fahrenheitIsForThisRunOnly()
+    {
+        const QJsonObject status = statusJson({u"--fahrenheit"_qs});
+        QVERIFY(!status.isEmpty());
+        Settings::store().sync();
+        QVERIFY(!Settings::store().contains(u"useFahrenheit"_qs));
+    }
+
+    void barRunsUntilItsReaderLeaves()
+    {
+        Settings::set(Settings::Key::refreshInterval, 0.5);
+        Settings::store().sync();
+        // A real pipe whose reader leaves after three lines; with pipefail a
+        // death by SIGPIPE would show as status 141.
+        QProcess p;
+        p.start(u"bash"_qs, {u"-c"_qs, u"set -o pipefail; \"$0\" bar | head -n 3"_qs, QStringLiteral(SULKBOX_EXE)});
+        QVERIFY(p.waitForFinished(15000));
+        QCOMPARE(p.exitStatus(), QProcess::NormalExit);
+        QCOMPARE(p.exitCode(), 0);
+        const QList<QByteArray> lines = p.readAllStandardOutput().trimmed().split('\n');
+        QCOMPARE(lines.size(), 3);
+        for (const QByteArray &line : lines)
+            QVERIFY(!line.trimmed().isEmpty());
+        Settings::remove(Settings::Key::refreshInterval);
+        Settings::store().sync();
+    }
+
+    void barFormatsForStatusBars()
+    {
+        Settings::set(Settings::Key::moodEnabled, false);
+        Settings::set(Settings::Key::refreshInterval, 0.5);
+        Settings::store().sync();
+        QProcess p;
+        p.start(QStringLiteral(SULKBOX_EXE), {u"bar"_qs, u"--format"_qs, u"waybar"_qs});
+        QVERIFY(p.waitForStarted());
+        QTRY_VERIFY_WITH_TIMEOUT(p.canReadLine(), 10000);
+        const QJsonObject o = QJsonDocument::fromJson(p.readLine()).object();
+        p.kill();
+        p.waitForFinished();
+        // Numbers mode: two percentages, two spaces apart.
+        QVERIFY2(QRegularExpression(u"^\\d+%  \\d+%$"_qs).match(o[u"text"_qs].toString()).hasMatch(),
+                 qPrintable(o[u"text"_qs].toString()));
+        QVERIFY(!o[u"tooltip"_qs].toString().isEmpty());
+        QVERIFY(!o[u"class"_qs].toString().isEmpty());
+
+        QProcess i3;
+        i3.start(QStringLiteral(SULKBOX_EXE), {u"bar"_qs, u"--format"_qs, u"i3bar"_qs});
+        QVERIFY(i3.waitForStarted());
+        QByteArray seen;
+        QTRY_VERIFY_WITH_TIMEOUT((seen += i3.readAllStandardOutput()).count('\n') >= 4, 10000);
+        i3.kill();
+        i3.waitForFinished();
+        const QList<QByteArray> lines = seen.split('\n');
+        QCOMPARE(QJsonDocument::fromJson(lines[0]).object()[u"version"_qs].toInt(), 1);
+        QCOMPARE(lines[1], QByteArray("["));
+        QVERIFY(QJsonDocument::fromJson(lines[2]).isArray());
+        QVERIFY(lines[3].startsWith(','));
+        QVERIFY(QJsonDocument::fromJson(lines[3].mid(1)).isArray());
+        TestSupport::clearSettings();
+    }
+
+    void usageErrorsExitWithTwo_data()
+    {
+        QTest::addColumn<QStringList>("args");
+        QTest::newRow("unknown option") << QStringList{u"status"_qs, u"--frobnicate"_qs};
+        QTest::newRow("unknown command") << QStringList{u"dance"_qs};
+        QTest::newRow("no command") << QStringList{u"--json"_qs};
+        QTest::newRow("bad language") << QStringList{u"status"_qs, u"--lang"_qs, u"klingon"_qs};
+        QTest::newRow("bad format") << QStringList{u"bar"_qs, u"--format"_qs, u"xml"_qs};
+        QTest::newRow("json with bar") << QStringList{u"bar"_qs, u"--json"_qs};
+        QTest::newRow("missing root") << QStringList{u"status"_qs, u"--root"_qs, u"/nonexistent/sulk"_qs};
+        QTest::newRow("capture without file") << QStringList{u"capture"_qs};
+    }
+
+    void usageErrorsExitWithTwo()
+    {
+        QFETCH(QStringList, args);
+        const Run r = sulkbox(args);
+        QCOMPARE(r.status, QProcess::NormalExit);
+        QCOMPARE(r.exitCode, 2);
+        QVERIFY(r.err.startsWith("sulkbox: "));
+        QVERIFY(r.out.isEmpty());
+    }
+
+    void helpAndVersion()
+    {
+        const Run help = sulkbox({u"--help"_qs});
+        QCOMPARE(help.exitCode, 0);
+        QVERIFY(help.out.contains("status"));
+        QVERIFY(help.out.contains("capture"));
+        const Run version = sulkbox({u"--version"_qs});
+        QCOMPARE(version.exitCode, 0);
+        QVERIFY(version.out.startsWith("sulkbox "));
+    }
+
+    void captureReplaysLikeTheLiveMachine()
+    {
+        QTemporaryDir dir;
+        const QString archive = dir.filePath(u"snap.tar.gz"_qs);
+        const Run cap = sulkbox({u"capture"_qs, archive});
+        QCOMPARE(cap.exitCode, 0);
+        QVERIFY(QFile::exists(archive));
+        const QString unpacked = dir.filePath(u"snap"_qs);
+        QVERIFY(QDir().mkpath(unpacked));
+        QCOMPARE(QProcess::execute(u"tar"_qs, {u"-xzf"_qs, archive, u"-C"_qs, unpacked}), 0);
+
+        // Nothing personal: no process folders beyond the capture's own
+        // network view, no command lines or environments.
+        const QStringList procEntries = QDir(unpacked + u"/proc"_qs).entryList(QDir::AllEntries | QDir::NoDotAndDotDot);
+        for (const QString &e : procEntries)
+            QVERIFY2(!QFile::exists(unpacked + u"/proc/"_qs + e + u"/cmdline"_qs), qPrintable(e));
+        QVERIFY(!QFile::exists(unpacked + u"/proc/self/environ"_qs));
+
+        const QJsonObject live = statusJson();
+        const QJsonObject replay = statusJson({u"--root"_qs, unpacked});
+        QCOMPARE(replay[u"cpu"_qs][u"perCore"_qs].toArray().size(), live[u"cpu"_qs][u"perCore"_qs].toArray().size());
+        QCOMPARE(replay[u"memory"_qs][u"total"_qs].toDouble(), live[u"memory"_qs][u"total"_qs].toDouble());
+        QCOMPARE(sensorNames(replay), sensorNames(live));
+        QCOMPARE(replay[u"cpuBrand"_qs].toString(), live[u"cpuBrand"_qs].toString());
+        // Live-only sources stay empty in a replay.
+        QVERIFY(replay[u"processes"_qs].toArray().isEmpty());
+        QVERIFY(replay[u"disk"_qs][u"volumes"_qs].toArray().isEmpty());
+    }
+};
+
+SULK_TEST(CliTest)
+
+#include "CliTest.moc"
