@@ -1,11 +1,133 @@
 #include "sampling/BatteryMonitor.h"
 
+#include "sampling/SysAttr.h"
+
+using namespace Qt::StringLiterals;
+
+#include <cmath>
+
+namespace {
+
+// Minutes for `amount` at `rate` (µWh at µW, or µAh at µA); -1 when the rate
+// gives no useful estimate.
+int minutes(double amount, double rate)
+{
+    if (!(rate > 0) || !(amount >= 0))
+        return -1;
+    const double m = std::floor(amount / rate * 60.0);
+    return m <= BatteryMonitor::longestEstimate ? int(m) : -1;
+}
+
+} // namespace
+
 BatteryMonitor::BatteryMonitor(SystemRoots roots)
     : m_roots(std::move(roots))
 {
 }
 
+void BatteryMonitor::readBattery(const QString &dir, BatterySample &s, QString &status) const
+{
+    const auto value = [&dir](QLatin1StringView name) -> std::optional<double> {
+        const std::optional<qint64> v = SysAttr::readLong(dir + u'/' + name);
+        return v ? std::optional<double>(double(*v)) : std::nullopt;
+    };
+    status = SysAttr::readLine(dir + "/status"_L1).value_or(QString());
+
+    const auto energyNow = value("energy_now"_L1);
+    const auto energyFull = value("energy_full"_L1);
+    const auto energyDesign = value("energy_full_design"_L1);
+    const auto chargeNow = value("charge_now"_L1);
+    const auto chargeFull = value("charge_full"_L1);
+    const auto chargeDesign = value("charge_full_design"_L1);
+
+    s = BatterySample{};
+    s.present = true;
+    if (energyNow && energyFull && *energyFull > 0)
+        s.charge = *energyNow / *energyFull;
+    else if (chargeNow && chargeFull && *chargeFull > 0)
+        s.charge = *chargeNow / *chargeFull;
+    else if (const auto capacity = value("capacity"_L1))
+        s.charge = *capacity / 100.0;
+
+    s.isCharging = status == "Charging"_L1;
+
+    // Time estimates from one family only: energy with power, or charge
+    // with current. Some drivers sign the rate by direction.
+    std::optional<double> now, full, rate;
+    if (energyNow && energyFull) {
+        if (const auto power = value("power_now"_L1)) {
+            now = energyNow;
+            full = energyFull;
+            rate = std::abs(*power);
+        }
+    }
+    if (!rate && chargeNow && chargeFull) {
+        if (const auto current = value("current_now"_L1)) {
+            now = chargeNow;
+            full = chargeFull;
+            rate = std::abs(*current);
+        }
+    }
+    s.timeToEmpty = rate && status == "Discharging"_L1 ? minutes(*now, *rate) : -1;
+    s.timeToFull = rate && s.isCharging ? minutes(std::max(*full - *now, 0.0), *rate) : -1;
+
+    s.cycleCount = int(std::max<double>(value("cycle_count"_L1).value_or(0), 0));
+    if (const auto temp = value("temp"_L1))
+        s.temperature = *temp / 10.0;
+
+    if (energyFull && energyDesign && *energyDesign >= 1)
+        s.health = std::min(*energyFull / *energyDesign, 1.0);
+    else if (chargeFull && chargeDesign && *chargeDesign >= 1)
+        s.health = std::min(*chargeFull / *chargeDesign, 1.0);
+
+    if (chargeDesign || chargeFull) {
+        s.designCapacity = int(std::lround(chargeDesign.value_or(0) / 1000.0));
+        s.maxCapacity = int(std::lround(chargeFull.value_or(0) / 1000.0));
+    } else if (energyDesign || energyFull) {
+        double volts = value("voltage_min_design"_L1).value_or(0);
+        if (!(volts > 0))
+            volts = value("voltage_now"_L1).value_or(0);
+        if (volts > 0) {
+            // µWh / µV is Ah.
+            s.designCapacity = int(std::lround(energyDesign.value_or(0) / volts * 1000.0));
+            s.maxCapacity = int(std::lround(energyFull.value_or(0) / volts * 1000.0));
+        }
+    }
+}
+
 BatterySample BatteryMonitor::read()
 {
-    return {};
+    BatterySample sample;
+    const QString base = m_roots.sys + "/class/power_supply/"_L1;
+    bool externalSupply = false;
+    bool online = false;
+    QString status;
+
+    for (const QString &name : SysAttr::entries(base)) {
+        const QString dir = base + name;
+        const std::optional<QString> type = SysAttr::readLine(dir + "/type"_L1);
+        if (!type || SysAttr::readLine(dir + "/scope"_L1) == "Device"_L1)
+            continue;
+        if (*type == "Mains"_L1 || *type == "USB"_L1) {
+            externalSupply = true;
+            if (SysAttr::readLong(dir + "/online"_L1).value_or(0) > 0)
+                online = true;
+        } else if (*type == "Battery"_L1) {
+            if (SysAttr::readLong(dir + "/present"_L1).value_or(1) == 0)
+                continue;
+            readBattery(dir, sample, status);
+        }
+    }
+
+    // Without any Mains or USB supply to ask, the battery's own status tells
+    // whether outside power is there.
+    if (!externalSupply && sample.present)
+        online = status == "Charging"_L1 || status == "Full"_L1 || status == "Not charging"_L1;
+
+    sample.isPluggedIn = online;
+    if (online)
+        sample.powerSource = acPower;
+    else if (sample.present)
+        sample.powerSource = batteryPower;
+    return sample;
 }

@@ -1,8 +1,10 @@
 #pragma once
-// GPU utilisation: amdgpu's gpu_busy_percent, or NVIDIA's management library
-// opened by name at run time.
+// GPU utilisation: the DRM cards' gpu_busy_percent (amdgpu), else NVIDIA's
+// management library on the live machine. No card and no library: hasUsage
+// false.
 
 #include "model/Records.h"
+#include "sampling/Nvml.h"
 #include "sampling/SystemRoots.h"
 
 class GPUMonitor {
@@ -11,6 +13,11 @@ public:
 
     GPUSample read();
 
+    // Where NVIDIA figures come from; by default the management library
+    // when the roots are live, none otherwise.
+    void setNvidiaSource(nvml::Source source) { m_nvidia = std::move(source); }
+
 private:
     SystemRoots m_roots;
+    nvml::Source m_nvidia;
 };

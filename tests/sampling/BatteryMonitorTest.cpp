@@ -1,0 +1,185 @@
+#include "common/TestSupport.h"
+
+#include "sampling/BatteryMonitor.h"
+
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <filesystem>
+#include <initializer_list>
+#include <utility>
+
+namespace {
+
+SystemRoots fixtureRoots(const QString &name)
+{
+    return SystemRoots::underPrefix(TestSupport::fixture(name));
+}
+
+using Files = std::initializer_list<std::pair<const char *, const char *>>;
+
+// Adds one supply with the given attribute files to a power_supply folder.
+void addSupply(const QTemporaryDir &tmp, const char *name, Files files)
+{
+    const QString dir = tmp.path() + QStringLiteral("/sys/class/power_supply/") + QString::fromLatin1(name);
+    std::filesystem::create_directories(dir.toStdString());
+    for (const auto &[file, text] : files) {
+        QFile f(dir + u'/' + QString::fromLatin1(file));
+        QVERIFY(f.open(QIODevice::WriteOnly));
+        f.write(text);
+        f.write("\n");
+    }
+}
+
+BatterySample readTree(const QTemporaryDir &tmp)
+{
+    return BatteryMonitor(SystemRoots::underPrefix(tmp.path())).read();
+}
+
+} // namespace
+
+class BatteryMonitorTest : public QObject {
+    Q_OBJECT
+private slots:
+    void laptopOnChargeFromEnergyFiles()
+    {
+        const BatterySample b = BatteryMonitor(fixtureRoots(QStringLiteral("laptop"))).read();
+        QVERIFY(b.present);
+        // The wireless mouse (scope Device, 40 %) sorts after BAT0 and must
+        // not stand in for it.
+        QCOMPARE(b.charge, 42.75 / 51.3);
+        QVERIFY(b.isCharging);
+        QVERIFY(b.isPluggedIn);
+        QCOMPARE(b.timeToFull, 33); // 8.55 Wh at 15.39 W
+        QCOMPARE(b.timeToEmpty, -1);
+        QCOMPARE(b.cycleCount, 123);
+        QCOMPARE(b.health, 0.9);
+        QCOMPARE(b.temperature, 29.8);
+        QCOMPARE(b.designCapacity, 5000); // 57 Wh at 11.4 V
+        QCOMPARE(b.maxCapacity, 4500);
+        QCOMPARE(b.powerSource, BatteryMonitor::acPower);
+    }
+
+    void macOnBatteryFromChargeFiles()
+    {
+        const BatterySample b = BatteryMonitor(fixtureRoots(QStringLiteral("intel-mac"))).read();
+        QVERIFY(b.present);
+        QCOMPARE(b.charge, 3200000.0 / 4800000.0);
+        QVERIFY(!b.isCharging);
+        QVERIFY(!b.isPluggedIn); // ADP1 offline
+        QCOMPARE(b.timeToEmpty, 120);
+        QCOMPARE(b.timeToFull, -1);
+        QCOMPARE(b.cycleCount, 412);
+        QCOMPARE(b.health, 4800000.0 / 5400000.0);
+        QCOMPARE(b.temperature, 0.0);
+        QCOMPARE(b.designCapacity, 5400);
+        QCOMPARE(b.maxCapacity, 4800);
+        QCOMPARE(b.powerSource, BatteryMonitor::batteryPower);
+    }
+
+    void nothingToReadGivesTheEmptyRecord()
+    {
+        for (const char *name : {"vm", "amd-desktop", "no-such-tree"})
+            QCOMPARE(BatteryMonitor(fixtureRoots(QString::fromLatin1(name))).read(), BatterySample{});
+    }
+
+    void desktopOnMainsHasNoBattery()
+    {
+        QTemporaryDir tmp;
+        addSupply(tmp, "ADP0", {{"type", "Mains"}, {"online", "1"}});
+        addSupply(tmp, "hidpp_battery_1", {{"type", "Battery"}, {"scope", "Device"}, {"capacity", "70"}});
+        addSupply(tmp, "BAT1", {{"type", "Battery"}, {"present", "0"}, {"capacity", "0"}});
+        const BatterySample b = readTree(tmp);
+        QVERIFY(!b.present);
+        QVERIFY(b.isPluggedIn);
+        QCOMPARE(b.powerSource, BatteryMonitor::acPower);
+        QCOMPARE(b.charge, 0.0);
+        QCOMPARE(b.timeToEmpty, 0);
+    }
+
+    void timesNeverMixEnergyAndCharge()
+    {
+        // Energy figures with only a current: no estimate, though µWh / µA
+        // would give a number.
+        QTemporaryDir a;
+        addSupply(a, "BAT0", {{"type", "Battery"}, {"status", "Discharging"}, {"energy_now", "30000000"},
+                              {"energy_full", "50000000"}, {"current_now", "1000000"}});
+        BatterySample b = readTree(a);
+        QCOMPARE(b.charge, 0.6);
+        QCOMPARE(b.timeToEmpty, -1);
+
+        // Both families present: energy with power wins; a signed rate is
+        // taken by size.
+        QTemporaryDir c;
+        addSupply(c, "BAT0", {{"type", "Battery"}, {"status", "Discharging"}, {"energy_now", "30000000"},
+                              {"energy_full", "50000000"}, {"power_now", "-10000000"},
+                              {"charge_now", "2000000"}, {"charge_full", "4000000"}, {"current_now", "4000000"}});
+        QCOMPARE(readTree(c).timeToEmpty, 180);
+
+        // A rate of zero, or one so small the estimate is meaningless.
+        QTemporaryDir z;
+        addSupply(z, "BAT0", {{"type", "Battery"}, {"status", "Discharging"}, {"charge_now", "2000000"},
+                              {"charge_full", "4000000"}, {"current_now", "0"}});
+        QCOMPARE(readTree(z).timeToEmpty, -1);
+        QTemporaryDir t;
+        addSupply(t, "BAT0", {{"type", "Battery"}, {"status", "Discharging"}, {"charge_now", "2000000"},
+                              {"charge_full", "4000000"}, {"current_now", "1"}});
+        QCOMPARE(readTree(t).timeToEmpty, -1);
+    }
+
+    void sparseAndDamagedBatteries()
+    {
+        // Only a capacity percentage: charge, nothing else.
+        QTemporaryDir a;
+        addSupply(a, "BAT0", {{"type", "Battery"}, {"status", "Discharging"}, {"capacity", "55"}});
+        BatterySample b = readTree(a);
+        QVERIFY(b.present);
+        QCOMPARE(b.charge, 0.55);
+        QCOMPARE(b.timeToEmpty, -1);
+        QCOMPARE(b.health, 0.0);
+        QCOMPARE(b.designCapacity, 0);
+        QCOMPARE(b.powerSource, BatteryMonitor::batteryPower);
+
+        // Damaged energy files fall back to charge; a worn-in battery
+        // reporting more than its design is capped at full health.
+        QTemporaryDir c;
+        addSupply(c, "BAT0", {{"type", "Battery"}, {"status", "Unknown"}, {"energy_now", "12abc"},
+                              {"energy_full", ""}, {"charge_now", "1000000"}, {"charge_full", "5200000"},
+                              {"charge_full_design", "5000000"}, {"cycle_count", "-1"}});
+        b = readTree(c);
+        QCOMPARE(b.charge, 1000000.0 / 5200000.0);
+        QCOMPARE(b.health, 1.0);
+        QCOMPARE(b.maxCapacity, 5200);
+        QCOMPARE(b.cycleCount, 0);
+        QCOMPARE(b.timeToEmpty, -1);
+        QCOMPARE(b.timeToFull, -1);
+    }
+
+    void statusTellsAboutPowerWithoutAMainsSupply()
+    {
+        QTemporaryDir a;
+        addSupply(a, "BAT0", {{"type", "Battery"}, {"status", "Full"}, {"capacity", "100"}});
+        BatterySample b = readTree(a);
+        QVERIFY(b.isPluggedIn);
+        QVERIFY(!b.isCharging);
+        QCOMPARE(b.powerSource, BatteryMonitor::acPower);
+
+        // With a Mains supply present its online flag decides, and an
+        // offline USB-C port is not outside power.
+        QTemporaryDir c;
+        addSupply(c, "AC", {{"type", "Mains"}, {"online", "0"}});
+        addSupply(c, "ucsi-source-psy-USBC000:001", {{"type", "USB"}, {"online", "0"}});
+        addSupply(c, "BAT0", {{"type", "Battery"}, {"status", "Not charging"}, {"capacity", "80"}});
+        b = readTree(c);
+        QVERIFY(!b.isPluggedIn);
+        QCOMPARE(b.powerSource, BatteryMonitor::batteryPower);
+
+        QTemporaryDir u;
+        addSupply(u, "ucsi-source-psy-USBC000:001", {{"type", "USB"}, {"online", "1"}});
+        addSupply(u, "BAT0", {{"type", "Battery"}, {"status", "Charging"}, {"capacity", "80"}});
+        QVERIFY(readTree(u).isPluggedIn);
+    }
+};
+
+SULK_TEST(BatteryMonitorTest)
+#include "BatteryMonitorTest.moc"

@@ -1,0 +1,187 @@
+#include "common/TestSupport.h"
+
+#include "sampling/Power.h"
+
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <filesystem>
+
+namespace {
+
+// A writable copy of a fixture's /sys, a meter over it and a hand-driven clock.
+struct Rig {
+    QTemporaryDir tmp;
+    QString sys;
+    double now = 1000.0;
+    std::unique_ptr<PowerMeter> meter;
+
+    explicit Rig(const char *fixture)
+    {
+        namespace fs = std::filesystem;
+        fs::copy(TestSupport::fixture(QString::fromLatin1(fixture)).toStdString(), tmp.path().toStdString(),
+                 fs::copy_options::recursive | fs::copy_options::copy_symlinks);
+        sys = tmp.path() + QStringLiteral("/sys");
+        meter = std::make_unique<PowerMeter>(SystemRoots::underPrefix(tmp.path()));
+        meter->setClock([this] { return now; });
+    }
+
+    void set(const char *zone, qint64 microjoules)
+    {
+        QFile f(sys + QStringLiteral("/class/powercap/") + QString::fromLatin1(zone) + QStringLiteral("/energy_uj"));
+        QVERIFY(f.open(QIODevice::WriteOnly | QIODevice::Truncate));
+        f.write(QByteArray::number(microjoules) + '\n');
+    }
+
+    QmPowerReading readAfter(double seconds)
+    {
+        now += seconds;
+        return meter->read();
+    }
+};
+
+QmPowerReading watts(double cpu, double gpu, double total)
+{
+    QmPowerReading r;
+    r.cpu = cpu;
+    r.gpu = gpu;
+    r.total = total;
+    r.ok = 1;
+    return r;
+}
+
+void compareReading(const QmPowerReading &got, const QmPowerReading &want)
+{
+    QCOMPARE(got.ok, want.ok);
+    QVERIFY2(qAbs(got.cpu - want.cpu) < 1e-9, qPrintable(QString::number(got.cpu)));
+    QVERIFY2(qAbs(got.gpu - want.gpu) < 1e-9, qPrintable(QString::number(got.gpu)));
+    QVERIFY2(qAbs(got.total - want.total) < 1e-9, qPrintable(QString::number(got.total)));
+}
+
+} // namespace
+
+class PowerMeterTest : public QObject {
+    Q_OBJECT
+private slots:
+    void averagesOverTheInterval()
+    {
+        Rig rig("laptop");
+        QCOMPARE(rig.meter->read(), QmPowerReading{}); // primes only
+        rig.set("intel-rapl:0", 100000000 + 20000000);   // package +20 J
+        rig.set("intel-rapl:0:0", 60000000 + 12000000);  // core +12 J
+        rig.set("intel-rapl:0:1", 5000000 + 1000000);    // uncore +1 J
+        rig.set("intel-rapl:0:2", 20000000 + 4000000);   // dram +4 J
+        rig.set("intel-rapl:1", 900000000);              // psys: not counted
+        rig.set("intel-rapl-mmio:0", 999000000);         // copy of the package: not counted
+        compareReading(rig.readAfter(2.0), watts(6.0, 0.5, 12.0));
+        // Nothing used since: zeros, still a valid reading.
+        compareReading(rig.readAfter(1.0), watts(0, 0, 0));
+    }
+
+    void counterWrapsThroughItsRange()
+    {
+        Rig rig("laptop");
+        const qint64 range = 262143328850;
+        rig.set("intel-rapl:0", range - 1000000);
+        rig.set("intel-rapl:0:0", range - 500000);
+        rig.meter->read();
+        rig.set("intel-rapl:0", 4000000);  // 1 J to the top, 4 J after
+        rig.set("intel-rapl:0:0", 2500000); // 0.5 J + 2.5 J
+        compareReading(rig.readAfter(1.0), watts(3.0, 0, 5.0));
+
+        // A counter that goes back without a known range is not trusted.
+        QFile::remove(rig.sys + QStringLiteral("/class/powercap/intel-rapl:0/max_energy_range_uj"));
+        rig.meter->reset();
+        rig.meter->read();
+        rig.set("intel-rapl:0", 1000000);
+        QCOMPARE(rig.readAfter(1.0).ok, 0);
+        rig.set("intel-rapl:0", 3000000);
+        compareReading(rig.readAfter(1.0), watts(0, 0, 2.0));
+    }
+
+    void intervalRule()
+    {
+        Rig rig("laptop");
+        rig.meter->read();
+        rig.set("intel-rapl:0", 130000000);
+        QCOMPARE(rig.readAfter(31.0).ok, 0); // too long ago: primes again
+        rig.set("intel-rapl:0", 140000000);
+        compareReading(rig.readAfter(1.0), watts(0, 0, 10.0));
+        rig.set("intel-rapl:0", 170000000);
+        compareReading(rig.readAfter(30.0), watts(0, 0, 1.0)); // 30 s is still fine
+        QCOMPARE(rig.readAfter(0.0).ok, 0);                    // no time passed
+        QCOMPARE(rig.readAfter(-5.0).ok, 0);                   // clock went back
+        compareReading(rig.readAfter(1.0), watts(0, 0, 0));
+    }
+
+    void resetMakesTheNextReadingPrime()
+    {
+        Rig rig("laptop");
+        rig.meter->read();
+        QCOMPARE(rig.readAfter(1.0).ok, 1);
+        rig.meter->reset();
+        QCOMPARE(rig.readAfter(1.0).ok, 0);
+        QCOMPARE(rig.readAfter(1.0).ok, 1);
+    }
+
+    void unreadableCountersAreNotOk()
+    {
+        // What an ordinary user meets since kernel 5.10 (root-only counters);
+        // a folder in the file's place fails to read even for root.
+        Rig rig("laptop");
+        const std::string file = (rig.sys + QStringLiteral("/class/powercap/intel-rapl:0:0/energy_uj")).toStdString();
+        std::filesystem::remove(file);
+        std::filesystem::create_directory(file);
+        QCOMPARE(rig.meter->read().ok, 0);
+        QCOMPARE(rig.readAfter(1.0).ok, 0);
+        QCOMPARE(rig.readAfter(1.0).ok, 0);
+
+        // Access granted later: picked up, primes, then measures.
+        std::filesystem::remove(file);
+        rig.set("intel-rapl:0:0", 1000);
+        QCOMPARE(rig.readAfter(1.0).ok, 0);
+        QCOMPARE(rig.readAfter(1.0).ok, 1);
+    }
+
+    void amdDesktopPackageAndBoard()
+    {
+        // No core zone: the package stands for the CPU. The discrete card's
+        // 153 W adds to the GPU and the total.
+        Rig rig("amd-desktop");
+        rig.meter->read();
+        rig.set("intel-rapl:0", 4000000000 + 90000000);
+        compareReading(rig.readAfter(1.0), watts(90.0, 153.0, 243.0));
+    }
+
+    void nvidiaBoardEnergyAddsToGpuAndTotal()
+    {
+        Rig rig("laptop");
+        double boardJoules = 5000;
+        rig.meter->setNvidiaSource([&boardJoules] {
+            nvml::NvmlReading withCounter;
+            withCounter.ok = withCounter.hasEnergy = withCounter.hasPower = true;
+            withCounter.energyJ = boardJoules;
+            withCounter.powerW = 999; // the counter wins over the momentary figure
+            nvml::NvmlReading olderBoard;
+            olderBoard.ok = olderBoard.hasPower = true;
+            olderBoard.powerW = 20;
+            return std::vector<nvml::NvmlReading>{withCounter, olderBoard};
+        });
+        rig.meter->read();
+        boardJoules += 120;
+        rig.set("intel-rapl:0", 100000000 + 10000000);
+        compareReading(rig.readAfter(2.0), watts(0, 60.0 + 20.0, 5.0 + 80.0));
+    }
+
+    void noCountersNoReading()
+    {
+        for (const char *name : {"vm", "intel-mac"}) {
+            Rig rig(name);
+            QCOMPARE(rig.meter->read(), QmPowerReading{});
+            QCOMPARE(rig.readAfter(1.0), QmPowerReading{});
+        }
+    }
+};
+
+SULK_TEST(PowerMeterTest)
+#include "PowerMeterTest.moc"

@@ -1,0 +1,196 @@
+#include "common/TestSupport.h"
+
+#include "sampling/SMC.h"
+
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <filesystem>
+
+namespace {
+
+QByteArray hex(const char *text)
+{
+    return QByteArray::fromHex(text);
+}
+
+SystemRoots fixtureRoots(const QString &name)
+{
+    return SystemRoots::underPrefix(TestSupport::fixture(name));
+}
+
+void writeFile(const QString &path, const QByteArray &data)
+{
+    std::filesystem::create_directories(std::filesystem::path(path.toStdString()).parent_path());
+    QFile f(path);
+    QVERIFY(f.open(QIODevice::WriteOnly | QIODevice::Truncate));
+    f.write(data);
+}
+
+} // namespace
+
+class SmcTest : public QObject {
+    Q_OBJECT
+private slots:
+    void decodesEachType_data()
+    {
+        QTest::addColumn<QString>("type");
+        QTest::addColumn<QByteArray>("bytes");
+        QTest::addColumn<double>("expected");
+
+        QTest::newRow("sp78 47.5") << "sp78" << hex("2f80") << 47.5;
+        QTest::newRow("sp78 negative") << "sp78" << hex("ff00") << -1.0;
+        QTest::newRow("fpe2 drops the fraction bits") << "fpe2" << hex("1f43") << 2000.0;
+        QTest::newRow("flt little-endian") << "flt " << hex("00002040") << 2.5;
+        QTest::newRow("ui8 with blank") << "ui8 " << hex("03") << 3.0;
+        QTest::newRow("ui8 three characters") << "ui8" << hex("03") << 3.0;
+        QTest::newRow("ui32 big-endian") << "ui32" << hex("00000100") << 256.0;
+        // Unknown types: a plausible float, else the first byte.
+        QTest::newRow("unknown, float 2.5") << "{alv" << hex("00002040") << 2.5;
+        QTest::newRow("unknown, float 3e7 too big") << "{alv" << hex("c0e1e44b") << 192.0;
+        QTest::newRow("unknown, negative float") << "si16" << hex("000020c0") << 0.0;
+        QTest::newRow("unknown, NaN") << "ch8*" << hex("0700c07f") << 7.0;
+    }
+
+    void decodesEachType()
+    {
+        QFETCH(QString, type);
+        QFETCH(QByteArray, bytes);
+        QFETCH(double, expected);
+        const std::optional<double> v = SMC::decode(type, bytes);
+        QVERIFY(v.has_value());
+        QCOMPARE(*v, expected);
+    }
+
+    void tooFewBytesIsAbsent()
+    {
+        QVERIFY(!SMC::decode(QStringLiteral("sp78"), hex("2f")));
+        QVERIFY(!SMC::decode(QStringLiteral("flt "), hex("000020")));
+        QVERIFY(!SMC::decode(QStringLiteral("ui8 "), QByteArray()));
+        QVERIFY(!SMC::decode(QStringLiteral("{alv"), QByteArray()));
+    }
+
+    void codesAndTypeNames()
+    {
+        QCOMPARE(SMC::fourCharCode(QStringLiteral("TC0P")), 0x54433050u);
+        QCOMPARE(SMC::fourCharCode(QStringLiteral("ab")), 0x6162u);
+        QCOMPARE(SMC::fourCharCode(QString()), 0u);
+        QCOMPARE(SMC::fourCharCode(QStringLiteral("F0AcXYZ")), SMC::fourCharCode(QStringLiteral("F0Ac")));
+        QCOMPARE(SMC::typeString(0x73703738), QStringLiteral("sp78"));
+        QCOMPARE(SMC::typeString(SMC::fourCharCode(QStringLiteral("ui8 "))), QStringLiteral("ui8 "));
+        QCOMPARE(SMC::typeString(0x80414243), QString());
+        // A three-letter code decodes with a leading NUL and still names ui8.
+        QCOMPARE(SMC::decode(SMC::typeString(SMC::fourCharCode(QStringLiteral("ui8"))), hex("09")), 9.0);
+    }
+
+    void recordLayout()
+    {
+        static_assert(sizeof(SMCParamStruct) == 76);
+        SMCParamStruct s;
+        s.key = SMC::fourCharCode(QStringLiteral("TC0P"));
+        s.dataSize = 2;
+        s.dataType = SMC::fourCharCode(QStringLiteral("sp78"));
+        s.result = 0x84;
+        s.command = SMCParamStruct::readBytes;
+        s.bytes[0] = 0x2f;
+        s.bytes[31] = 0x80;
+        const auto raw = s.toBytes();
+        QCOMPARE(raw[0], uint8_t('P')); // little-endian: last character first
+        QCOMPARE(raw[3], uint8_t('T'));
+        QCOMPARE(raw[28], uint8_t(2));
+        QCOMPARE(raw[32], uint8_t('8'));
+        QCOMPARE(raw[37], uint8_t(0x84));
+        QCOMPARE(raw[39], uint8_t(5));
+        QCOMPARE(raw[44], uint8_t(0x2f));
+        QCOMPARE(raw[75], uint8_t(0x80));
+        const SMCParamStruct back = SMCParamStruct::fromBytes(raw);
+        QCOMPARE(back.key, s.key);
+        QCOMPARE(back.dataType, s.dataType);
+        QCOMPARE(back.result, s.result);
+        QCOMPARE(back.bytes[31], s.bytes[31]);
+    }
+
+    void readsTheIntelMacKeyTable()
+    {
+        SMC smc(fixtureRoots(QStringLiteral("intel-mac")));
+        QVERIFY(smc.isOpen());
+        QCOMPARE(smc.readValue(QStringLiteral("TC0P")), 47.5);
+        QCOMPARE(smc.readValue(QStringLiteral("TG0P")), 52.25);
+        QCOMPARE(smc.readValue(QStringLiteral("#KEY")), 12.0);
+        QCOMPARE(smc.readValue(QStringLiteral("FNum")), 2.0);
+        QCOMPARE(smc.readValue(QStringLiteral("PSTR")), 2.5);
+        QCOMPARE(smc.readValue(QStringLiteral("ALV0")), 1.0); // unknown type, float out of range
+        // Not in the table: the driver's temperature attributes answer.
+        QCOMPARE(smc.readValue(QStringLiteral("TA0P")), 31.0);
+        QVERIFY(!smc.readValue(QStringLiteral("ZZZZ")));
+        QVERIFY(!smc.readValue(QString()));
+
+        const QList<FanInfo> fans = smc.fans();
+        QCOMPARE(fans.size(), 2);
+        QCOMPARE(fans[0].index, 0);
+        QCOMPARE(fans[0].current, 2000.0);
+        QCOMPARE(fans[0].min, 1300.0);
+        QCOMPARE(fans[0].max, 6200.0);
+        QCOMPARE(fans[1].index, 1);
+        QCOMPARE(fans[1].current, 2100.0);
+    }
+
+    void attributesAloneStillGiveFansAndTemperatures()
+    {
+        // What a user without root sees on the live machine: no key table.
+        QTemporaryDir tmp;
+        const std::filesystem::path from = TestSupport::fixture(QStringLiteral("intel-mac")).toStdString();
+        std::filesystem::copy(from, tmp.path().toStdString(), std::filesystem::copy_options::recursive | std::filesystem::copy_options::copy_symlinks);
+        std::filesystem::remove_all((tmp.path() + QStringLiteral("/sys/devices/platform/applesmc.768/keys")).toStdString());
+
+        SMC smc(SystemRoots::underPrefix(tmp.path()));
+        QVERIFY(smc.isOpen());
+        QCOMPARE(smc.readValue(QStringLiteral("TC0P")), 47.5);
+        QCOMPARE(smc.readValue(QStringLiteral("FNum")), 2.0);
+        const QList<FanInfo> fans = smc.fans();
+        QCOMPARE(fans.size(), 2);
+        QCOMPARE(fans[1].current, 2100.0);
+        QCOMPARE(fans[1].min, 1300.0);
+        QCOMPARE(fans[1].max, 6200.0);
+        QVERIFY(!smc.readValue(QStringLiteral("PSTR")));
+    }
+
+    void closedWithoutTheDriver()
+    {
+        for (const char *name : {"vm", "laptop", "amd-desktop", "no-such-tree"}) {
+            SMC smc(fixtureRoots(QString::fromLatin1(name)));
+            QVERIFY2(!smc.isOpen(), name);
+            QVERIFY(!smc.readValue(QStringLiteral("TC0P")));
+            QVERIFY(smc.fans().isEmpty());
+        }
+    }
+
+    void damagedTableGivesAbsentValues()
+    {
+        QTemporaryDir tmp;
+        const QString dir = tmp.path() + QStringLiteral("/sys/devices/platform/applesmc.768");
+        writeFile(dir + QStringLiteral("/name"), "applesmc\n");
+        writeFile(dir + QStringLiteral("/key_count"), "garbage\n");
+        writeFile(dir + QStringLiteral("/keys/0/name"), "FNum\n");
+        writeFile(dir + QStringLiteral("/keys/0/type"), "ui8 \n");
+        writeFile(dir + QStringLiteral("/keys/0/data"), ""); // zero-length value
+        writeFile(dir + QStringLiteral("/keys/1/name"), "TC0P\n");
+        writeFile(dir + QStringLiteral("/keys/1/type"), "sp78\n");
+        writeFile(dir + QStringLiteral("/keys/1/data"), hex("2f")); // one byte short
+        writeFile(dir + QStringLiteral("/keys/2/name"), "TG0P\n"); // no type, no data
+        writeFile(dir + QStringLiteral("/keys/3/name"), "ZZ\n");
+        writeFile(dir + QStringLiteral("/keys/3/type"), "\xff\xfe\n");
+        writeFile(dir + QStringLiteral("/keys/3/data"), hex("05"));
+
+        SMC smc(SystemRoots::underPrefix(tmp.path()));
+        QVERIFY(smc.isOpen());
+        QVERIFY(!smc.readValue(QStringLiteral("FNum")));
+        QVERIFY(!smc.readValue(QStringLiteral("TC0P")));
+        QVERIFY(!smc.readValue(QStringLiteral("TG0P")));
+        QCOMPARE(smc.readValue(QStringLiteral("ZZ")), 5.0); // odd type name: first byte
+        QVERIFY(smc.fans().isEmpty());
+    }
+};
+
+SULK_TEST(SmcTest)
+#include "SmcTest.moc"
