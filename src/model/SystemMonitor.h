@@ -7,6 +7,9 @@
 #include "model/RingBuffer.h"
 #include "model/Samplers.h"
 #include "model/Scheduler.h"
+#include "personality/Mood.h"
+#include "personality/MoodEngine.h"
+#include "personality/Roasts.h"
 
 #include <QList>
 #include <QObject>
@@ -14,6 +17,7 @@
 
 #include <atomic>
 #include <memory>
+#include <optional>
 
 class SystemMonitor : public QObject {
     Q_OBJECT
@@ -33,6 +37,13 @@ class SystemMonitor : public QObject {
     Q_PROPERTY(RingBuffer diskWriteHistory READ diskWriteHistory NOTIFY diskWriteHistoryChanged)
     Q_PROPERTY(QString cpuBrand READ cpuBrand CONSTANT)
     Q_PROPERTY(bool panelVisible READ panelVisible WRITE setPanelVisible NOTIFY panelVisibleChanged)
+    // Mood and roast state. `reaction` and `roastEvent` are optional in C++;
+    // QML reads them as a presence flag plus a value.
+    Q_PROPERTY(Mood mood READ mood NOTIFY moodChanged)
+    Q_PROPERTY(bool hasReaction READ hasReaction NOTIFY reactionChanged)
+    Q_PROPERTY(Mood reaction READ reactionOrMood NOTIFY reactionChanged)
+    Q_PROPERTY(bool hasRoastEvent READ hasRoastEvent NOTIFY roastEventChanged)
+    Q_PROPERTY(RoastEvent roastEvent READ roastEventOrEmpty NOTIFY roastEventChanged)
 
 public:
     static constexpr int historyCapacity = 60;
@@ -82,6 +93,33 @@ public:
     int timerIntervalMs() const { return m_timer.interval(); }
     Scheduler &scheduler() const { return m_scheduler; }
 
+    // --- Mood and roast state -------------------------------------------
+    // The engine's latest distinct result; replaced (and announced) only
+    // when it differs by Mood equality.
+    const Mood &mood() const { return m_mood; }
+    // Takes an engine result: replaces `mood` only when it differs.
+    void offerMood(const Mood &next);
+    // A short-lived mood other parts put on top (pokes, Savage Mode switch,
+    // memory clean-up). The model never sets or reads it itself.
+    const std::optional<Mood> &reaction() const { return m_reaction; }
+    void setReaction(const std::optional<Mood> &reaction);
+    bool hasReaction() const { return m_reaction.has_value(); }
+    const Mood &reactionOrMood() const { return m_reaction ? *m_reaction : m_mood; }
+    // The roast on show, for 5 s after the latest request.
+    const std::optional<RoastEvent> &roastEvent() const { return m_roastEvent; }
+    bool hasRoastEvent() const { return m_roastEvent.has_value(); }
+    RoastEvent roastEventOrEmpty() const { return m_roastEvent.value_or(RoastEvent{}); }
+    int roastToken() const { return m_roastToken; }
+    // A new roast of `topic` from the current readings.
+    Q_INVOKABLE void roast(RoastTopic topic);
+    // The engine's inputs from the current readings.
+    MoodInputs moodInputs() const;
+    // The roast readings from the current readings.
+    RoastReadings roastReadings() const;
+    const MoodEngine &moodEngine() const { return m_moodEngine; }
+
+    static constexpr int roastLifetimeMs = 5000;
+
 signals:
     void cpuChanged();
     void memoryChanged();
@@ -98,6 +136,9 @@ signals:
     void diskReadHistoryChanged();
     void diskWriteHistoryChanged();
     void panelVisibleChanged();
+    void moodChanged();
+    void reactionChanged();
+    void roastEventChanged();
     // After every tick, once the mood is up to date.
     void ticked();
 
@@ -130,4 +171,13 @@ private:
     bool m_panelVisible = false;
     // Set while a process list is being computed, so lists never overlap.
     std::shared_ptr<std::atomic<bool>> m_processJobRunning;
+
+    // --- Mood and roast state -------------------------------------------
+    Mood m_mood = Mood::placeholder();
+    std::optional<Mood> m_reaction;
+    std::optional<RoastEvent> m_roastEvent;
+    int m_roastToken = 0;
+    // Launch and last-active time from the scheduler's clock; the holiday
+    // lookup reads the same clock.
+    MoodEngine m_moodEngine{m_scheduler.now(), [this] { return m_scheduler.now(); }};
 };

@@ -1,0 +1,203 @@
+// The quip and roast texts of all six languages: completeness, line counts,
+// placeholders, and the lookup rules with their fallbacks.
+
+#include "common/TestSupport.h"
+
+#include "personality/Content.h"
+#include "personality/Quips.h"
+#include "personality/Roasts.h"
+
+#include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QTest>
+
+namespace {
+
+bool threeLineLanguage(AppLanguage lang)
+{
+    return lang == AppLanguage::ja || lang == AppLanguage::ko || lang == AppLanguage::th;
+}
+
+int expectedQuipCount(MoodKind kind, AppLanguage lang)
+{
+    static const QHash<MoodKind, int> english = {
+        {MoodKind::greeting, 3}, {MoodKind::hot, 4},      {MoodKind::battery, 3},  {MoodKind::memory, 3},
+        {MoodKind::swap, 3},     {MoodKind::cooldown, 3}, {MoodKind::cores, 3},    {MoodKind::busy, 4},
+        {MoodKind::network, 3},  {MoodKind::warm, 3},     {MoodKind::charging, 3}, {MoodKind::cruising, 3},
+        {MoodKind::storage, 3},  {MoodKind::idle, 3},     {MoodKind::calm, 4},     {MoodKind::festive, 3},
+        {MoodKind::annoyed, 4},
+    };
+    if (kind == MoodKind::annoyed && threeLineLanguage(lang))
+        return 3;
+    return english.value(kind);
+}
+
+int placeholders(const QString &line)
+{
+    return int(line.count(QStringLiteral("%@")));
+}
+
+void addLanguageRows()
+{
+    QTest::addColumn<AppLanguage>("lang");
+    for (AppLanguage lang : concreteLanguages())
+        QTest::newRow(languageRawText(lang).toLatin1().constData()) << lang;
+}
+
+} // namespace
+
+class ContentTest : public QObject {
+    Q_OBJECT
+
+private slots:
+    void filesAreWellFormed_data() { addLanguageRows(); }
+    void filesAreWellFormed()
+    {
+        QFETCH(AppLanguage, lang);
+        QFile file(QStringLiteral(":/personality/content/%1.json").arg(languageRawText(lang)));
+        QVERIFY2(file.open(QIODevice::ReadOnly), "the language file is not embedded");
+        QJsonParseError error{};
+        const QJsonDocument doc = QJsonDocument::fromJson(file.readAll(), &error);
+        QCOMPARE(error.error, QJsonParseError::NoError);
+        // Every entry is a real line: a string with something in it, and
+        // no half-width/full-width mix-up of the placeholder.
+        for (const char *section : {"quips", "roasts"}) {
+            const QJsonObject lists = doc.object().value(QLatin1String(section)).toObject();
+            QVERIFY(!lists.isEmpty());
+            for (auto it = lists.begin(); it != lists.end(); ++it) {
+                QVERIFY2(it.value().isArray(), qPrintable(it.key()));
+                for (const QJsonValue &v : it.value().toArray()) {
+                    QVERIFY2(v.isString() && !v.toString().trimmed().isEmpty(), qPrintable(it.key()));
+                    const QString line = v.toString();
+                    QVERIFY2(line == line.trimmed(), qPrintable(line));
+                    for (const char16_t *bad : {u"\uFF05@", u"%\uFF20", u"\uFF05\uFF20", u"% @"})
+                        QVERIFY2(!line.contains(QString::fromUtf16(bad)), qPrintable(line));
+                }
+            }
+        }
+    }
+
+    void quipCountsPerKind_data() { addLanguageRows(); }
+    void quipCountsPerKind()
+    {
+        QFETCH(AppLanguage, lang);
+        int total = 0;
+        for (MoodKind kind : allMoodKinds()) {
+            const QStringList lines = Quips::pools().value(kind).value(lang);
+            QVERIFY2(lines.size() == expectedQuipCount(kind, lang), qPrintable(moodKindName(kind)));
+            for (const QString &line : lines)
+                QVERIFY2(placeholders(line) == 0, qPrintable(line));
+            total += int(lines.size());
+        }
+        QCOMPARE(total, threeLineLanguage(lang) ? 54 : 55);
+    }
+
+    void roastCountsAndPlaceholders_data() { addLanguageRows(); }
+    void roastCountsAndPlaceholders()
+    {
+        QFETCH(AppLanguage, lang);
+        const int perKey = threeLineLanguage(lang) ? 3 : 4;
+        QCOMPARE(Roasts::allKeys().size(), 24);
+        for (const Roasts::Key &key : Roasts::allKeys()) {
+            const QStringList lines = Roasts::pools().value(key).value(lang);
+            const QByteArray where = key.name().toLatin1();
+            QVERIFY2(lines.size() == perKey, where.constData());
+            int withPlaceholder = 0;
+            for (const QString &line : lines) {
+                QVERIFY2(placeholders(line) <= 1, qPrintable(line));
+                withPlaceholder += placeholders(line);
+            }
+            int expected = 0;
+            if (key.notable)
+                expected = key.topic == RoastTopic::processes ? perKey : 1;
+            QVERIFY2(withPlaceholder == expected, where.constData());
+        }
+    }
+
+    void seedPicksByRemainder()
+    {
+        QCOMPARE(Roasts::line(RoastTopic::cpu, false, false, AppLanguage::en, std::nullopt, 9999),
+                 QStringLiteral("Plenty of horsepower to spare."));
+        const QStringList japanese = Roasts::pools().value({RoastTopic::cpu, false, false}).value(AppLanguage::ja);
+        QVERIFY(!japanese.isEmpty());
+        QCOMPARE(Roasts::line(RoastTopic::cpu, false, false, AppLanguage::ja, std::nullopt, 9999), japanese.first());
+
+        const std::optional<QString> pct = QStringLiteral("72%");
+        QCOMPARE(Roasts::line(RoastTopic::cpu, true, false, AppLanguage::en, pct, 4),
+                 QStringLiteral("Running at 72%, keeping busy."));
+        QCOMPARE(Roasts::line(RoastTopic::cpu, true, false, AppLanguage::en, pct, 5),
+                 QStringLiteral("A bit of a workout right now."));
+    }
+
+    void roastWithoutArgumentSkipsPlaceholderLines()
+    {
+        // The notable sensors list has one "%@" line; without a reading it
+        // must never be picked.
+        for (int seed = 0; seed < 12; ++seed) {
+            const QString line = Roasts::line(RoastTopic::sensors, true, true, AppLanguage::en, std::nullopt, seed);
+            QVERIFY2(!line.contains(QStringLiteral("%@")), qPrintable(line));
+        }
+    }
+
+    void roastLookupFallsBack()
+    {
+        Roasts::Pools pools;
+        const Roasts::Key key{RoastTopic::disk, true, false};
+        pools[key][AppLanguage::en] = {QStringLiteral("A %@"), QStringLiteral("B")};
+        pools[key][AppLanguage::ko] = {};
+        QCOMPARE(Roasts::line(pools, RoastTopic::disk, true, false, AppLanguage::th, QStringLiteral("9%"), 0),
+                 QStringLiteral("A 9%"));
+        // Without an argument only "B" is a candidate, whatever the seed.
+        QCOMPARE(Roasts::line(pools, RoastTopic::disk, true, false, AppLanguage::en, std::nullopt, 0),
+                 QStringLiteral("B"));
+        // Only placeholder lines and no argument: the line as written.
+        pools[key][AppLanguage::en] = {QStringLiteral("A %@")};
+        QCOMPARE(Roasts::line(pools, RoastTopic::disk, true, false, AppLanguage::en, std::nullopt, 3),
+                 QStringLiteral("A %@"));
+        // A key with no lists at all, and an empty list.
+        QCOMPARE(Roasts::line(pools, RoastTopic::cpu, false, false, AppLanguage::en, std::nullopt, 7),
+                 QStringLiteral("\u2026"));
+        QCOMPARE(Roasts::line(pools, RoastTopic::disk, true, false, AppLanguage::ko, std::nullopt, 7),
+                 QStringLiteral("\u2026"));
+    }
+
+    void quipLookupFallsBack()
+    {
+        Quips::Pools pools;
+        pools[MoodKind::hot][AppLanguage::en] = {QStringLiteral("hot")};
+        pools[MoodKind::hot][AppLanguage::ja] = {};
+        pools[MoodKind::calm][AppLanguage::en] = {QStringLiteral("calm")};
+        QCOMPARE(Quips::random(pools, MoodKind::hot, AppLanguage::zhHant), QStringLiteral("hot"));
+        QCOMPARE(Quips::random(pools, MoodKind::hot, AppLanguage::ja), QStringLiteral("\u2026"));
+        QCOMPARE(Quips::random(pools, MoodKind::idle, AppLanguage::en), QStringLiteral("calm"));
+        QCOMPARE(Quips::random(Quips::Pools{}, MoodKind::idle, AppLanguage::en), QStringLiteral("\u2026"));
+    }
+
+    void randomQuipComesFromThePool()
+    {
+        const QStringList pool = Quips::pools().value(MoodKind::busy).value(AppLanguage::en);
+        QSet<QString> seen;
+        for (int i = 0; i < 200; ++i) {
+            const QString quip = Quips::random(MoodKind::busy, AppLanguage::en);
+            QVERIFY(pool.contains(quip));
+            seen.insert(quip);
+        }
+        QCOMPARE(seen.size(), pool.size());
+    }
+
+    void damagedFileGivesNothing()
+    {
+        QVERIFY(!PersonalityContent::parse("{ not json"));
+        QVERIFY(!PersonalityContent::parse("[1, 2]"));
+        const auto partial = PersonalityContent::parse(R"({"quips": {"hot": ["a", 3, "", "b"], "calm": "x"}})");
+        QVERIFY(partial);
+        QCOMPARE(partial->quips.value(QStringLiteral("hot")), QStringList({QStringLiteral("a"), QStringLiteral("b")}));
+        QVERIFY(!partial->quips.contains(QStringLiteral("calm")));
+        QVERIFY(partial->roasts.isEmpty());
+    }
+};
+
+SULK_TEST(ContentTest)
+#include "ContentTest.moc"
