@@ -48,7 +48,7 @@ QString cleanedName(const QByteArray &raw)
 
 CPUMonitor::CPUMonitor(SystemRoots roots)
     : m_roots(std::move(roots))
-    , m_statPath(m_roots.proc + QStringLiteral("/stat"))
+    , m_stat(m_roots.proc + QStringLiteral("/stat"))
 {
 }
 
@@ -97,7 +97,7 @@ bool CPUMonitor::parse(std::vector<Counters> &out) const
 
 CPUSample CPUMonitor::read()
 {
-    if (!SysFs::readInto(m_statPath, m_buffer, 4 << 20) || !parse(m_current))
+    if (!m_stat.read(m_buffer, 4 << 20) || !parse(m_current))
         return {};
 
     m_coreCount = int(m_current.size());

@@ -2,6 +2,7 @@
 // Processor load from the per-CPU lines of /proc/stat.
 
 #include "model/Records.h"
+#include "sampling/SysFs.h"
 #include "sampling/SystemRoots.h"
 
 #include <QByteArray>
@@ -40,7 +41,7 @@ private:
     bool parse(std::vector<Counters> &out) const;
 
     SystemRoots m_roots;
-    QString m_statPath;
+    SysFs::KeptFile m_stat;
     QByteArray m_buffer;
     std::vector<Counters> m_previous;
     std::vector<Counters> m_current;

@@ -86,7 +86,7 @@ constexpr int zramRescanEvery = 60; // readings between looks for new zram devic
 
 MemoryMonitor::MemoryMonitor(SystemRoots roots)
     : m_roots(std::move(roots))
-    , m_meminfoPath(m_roots.proc + QStringLiteral("/meminfo"))
+    , m_meminfo(m_roots.proc + QStringLiteral("/meminfo"))
 {
 }
 
@@ -96,7 +96,7 @@ void MemoryMonitor::rescanZram()
     const QString block = m_roots.sys + QStringLiteral("/block/");
     for (const QString &name : SysFs::listDir(block)) {
         if (name.startsWith(QLatin1String("zram")))
-            m_zramStats.append(block + name + QStringLiteral("/mm_stat"));
+            m_zramStats.emplace_back(block + name + QStringLiteral("/mm_stat"));
     }
 }
 
@@ -110,8 +110,8 @@ double MemoryMonitor::zramInUse()
     // figure is what the device really takes from RAM, allocator overhead
     // included.
     double sum = 0;
-    for (const QString &path : std::as_const(m_zramStats)) {
-        if (!SysFs::readInto(path, m_zramBuffer, 4096))
+    for (SysFs::KeptFile &stat : m_zramStats) {
+        if (!stat.read(m_zramBuffer, 4096))
             continue;
         const char *p = m_zramBuffer.constData();
         const char *const end = p + m_zramBuffer.size();
@@ -133,7 +133,7 @@ double MemoryMonitor::zramInUse()
 MemorySample MemoryMonitor::read()
 {
     m_available = 0;
-    if (!SysFs::readInto(m_meminfoPath, m_buffer, 256 * 1024))
+    if (!m_meminfo.read(m_buffer, 256 * 1024))
         return {};
     double kb[FieldCount] = {};
     bool seen[FieldCount] = {};

@@ -3,6 +3,7 @@
 // free-up action.
 
 #include "model/Records.h"
+#include "sampling/SysFs.h"
 #include "sampling/SystemRoots.h"
 
 #include <QByteArray>
@@ -10,6 +11,7 @@
 #include <QStringList>
 
 #include <functional>
+#include <vector>
 
 // The figures agree with `free`: used = MemTotal - MemAvailable, cached is
 // free's buff/cache, wired is what can never be reclaimed, compressed is the
@@ -29,10 +31,10 @@ private:
     double zramInUse();
 
     SystemRoots m_roots;
-    QString m_meminfoPath;
+    SysFs::KeptFile m_meminfo;
     QByteArray m_buffer;
     QByteArray m_zramBuffer;
-    QStringList m_zramStats; // mm_stat paths of the zram devices
+    std::vector<SysFs::KeptFile> m_zramStats; // mm_stat of each zram device
     int m_readsUntilRescan = 0;
     double m_available = 0;
 };

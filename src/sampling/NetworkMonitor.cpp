@@ -59,8 +59,8 @@ std::optional<quint64> parseHex(const char *begin, const char *end)
 
 NetworkMonitor::NetworkMonitor(SystemRoots roots)
     : m_roots(std::move(roots))
-    , m_devPath(m_roots.proc + QStringLiteral("/net/dev"))
-    , m_routePath(m_roots.proc + QStringLiteral("/net/route"))
+    , m_dev(m_roots.proc + QStringLiteral("/net/dev"))
+    , m_route(m_roots.proc + QStringLiteral("/net/route"))
     , m_clock(steadySeconds)
 {
     if (m_roots.live)
@@ -94,7 +94,7 @@ bool NetworkMonitor::isCounted(const QByteArray &name) const
 // or its driver reset it) adds nothing for this interval.
 bool NetworkMonitor::readCounters(quint64 &in, quint64 &out, double &newIn, double &newOut)
 {
-    if (!SysFs::readInto(m_devPath, m_buffer, 1 << 20))
+    if (!m_dev.read(m_buffer, 1 << 20))
         return false;
     in = out = 0;
     newIn = newOut = 0;
@@ -199,7 +199,7 @@ NetworkSample NetworkMonitor::read(bool refreshAddress)
 // ..., addresses and flags in hex.
 std::optional<QString> NetworkMonitor::defaultRouteInterface()
 {
-    if (!SysFs::readInto(m_routePath, m_buffer, 1 << 20))
+    if (!m_route.read(m_buffer, 1 << 20))
         return std::nullopt;
     std::optional<QString> best;
     quint64 bestMetric = 0;

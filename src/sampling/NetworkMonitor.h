@@ -4,6 +4,7 @@
 // route.
 
 #include "model/Records.h"
+#include "sampling/SysFs.h"
 #include "sampling/SystemRoots.h"
 
 #include <QByteArray>
@@ -54,8 +55,8 @@ private:
     void lookUpPrimary();
 
     SystemRoots m_roots;
-    QString m_devPath;
-    QString m_routePath;
+    SysFs::KeptFile m_dev;
+    SysFs::KeptFile m_route;
     QByteArray m_buffer;
     std::vector<Interface> m_interfaces;
     QList<QByteArray> m_countOnly;

@@ -37,4 +37,31 @@ bool exists(const QString &path);
 // Parses a decimal unsigned integer from [begin, end); nullopt on garbage.
 std::optional<quint64> parseUnsigned(const char *begin, const char *end);
 
+// A file that is read again on every tick. Under /proc and /sys the
+// descriptor stays open and every read starts over at offset 0, which makes
+// the kernel produce the contents afresh and saves the path lookup; anywhere
+// else (fixture trees, snapshots) the file is opened anew each time, since
+// it may have been replaced in between.
+class KeptFile {
+public:
+    KeptFile() = default;
+    explicit KeptFile(const QString &path);
+    ~KeptFile();
+    KeptFile(KeptFile &&other) noexcept;
+    KeptFile &operator=(KeptFile &&other) noexcept;
+    KeptFile(const KeptFile &) = delete;
+    KeptFile &operator=(const KeptFile &) = delete;
+
+    // The whole file into `buffer` (reused; up to `maxBytes`). False, with
+    // an empty buffer, when it cannot be read.
+    bool read(QByteArray &buffer, qsizetype maxBytes = 1 << 20);
+
+private:
+    void close();
+
+    QByteArray m_native;
+    int m_fd = -1;
+    bool m_keep = false;
+};
+
 } // namespace SysFs
