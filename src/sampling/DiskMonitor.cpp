@@ -13,7 +13,14 @@
 #include <thread>
 #include <vector>
 
+#include <cerrno>
+
+#include <fcntl.h>
+#include <linux/magic.h>
+#include <poll.h>
 #include <sys/stat.h>
+#include <sys/statfs.h>
+#include <unistd.h>
 #include <sys/statvfs.h>
 #include <time.h>
 
@@ -191,12 +198,11 @@ QList<QList<Mount>> volumeCandidates(QByteArrayView mountinfo, QByteArrayView fi
     }
 
     // Within a file system: "/" first, then a mount of the whole file system
-    // over a bind of a sub-folder, then the shortest path.
+    // over a bind of a sub-folder; otherwise the earliest mount, which is the
+    // one the system made (later ones are binds of it).
     for (QList<Mount> &group : groups) {
         std::stable_sort(group.begin(), group.end(), [](const Mount &a, const Mount &b) {
-            const auto rank = [](const Mount &m) {
-                return std::tuple(m.mountPoint != u"/", m.root != u"/", m.mountPoint.size());
-            };
+            const auto rank = [](const Mount &m) { return std::pair(m.mountPoint != u"/", m.root != u"/"); };
             return rank(a) < rank(b);
         });
     }
@@ -421,7 +427,11 @@ DiskMonitor::DiskMonitor(SystemRoots roots, Options options)
         m_options.labelDir = QStringLiteral("/dev/disk/by-label");
 }
 
-DiskMonitor::~DiskMonitor() = default;
+DiskMonitor::~DiskMonitor()
+{
+    if (m_mountFd >= 0)
+        ::close(m_mountFd);
+}
 
 std::optional<DiskMonitor::FsFigures> DiskMonitor::statVolume(const QString &mountPoint)
 {
@@ -448,9 +458,53 @@ DiskSample DiskMonitor::read()
     return sample;
 }
 
+bool DiskMonitor::readMountTable()
+{
+    // procfs tells of every mount and unmount through poll(); while it
+    // reports nothing, the table we hold is current and the kernel need not
+    // print it again. Plain files (fixtures) are simply read every time.
+    if (m_mountFd >= 0) {
+        pollfd p{m_mountFd, POLLPRI, 0};
+        if (::poll(&p, 1, 0) == 0)
+            return true;
+        if (::lseek(m_mountFd, 0, SEEK_SET) == 0) {
+            m_mountBuffer.resize(0);
+            for (;;) {
+                if (m_mountBuffer.capacity() - m_mountBuffer.size() < 4096)
+                    m_mountBuffer.reserve(m_mountBuffer.size() * 2 + 4096);
+                const qsizetype had = m_mountBuffer.size();
+                m_mountBuffer.resize(m_mountBuffer.capacity());
+                const ssize_t got = ::read(m_mountFd, m_mountBuffer.data() + had, size_t(m_mountBuffer.size() - had));
+                m_mountBuffer.resize(had + std::max<ssize_t>(got, 0));
+                if (got < 0 && errno == EINTR)
+                    continue;
+                if (got <= 0 || m_mountBuffer.size() > (4 << 20))
+                    return got == 0;
+            }
+        }
+        ::close(m_mountFd);
+        m_mountFd = -1;
+    }
+    const QString path = m_roots.proc + QLatin1StringView("/self/mountinfo");
+    if (!SysFs::readInto(path, m_mountBuffer, 4 << 20))
+        return false;
+    const int fd = ::open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC);
+    struct statfs fs {};
+    if (fd >= 0 && ::fstatfs(fd, &fs) == 0 && fs.f_type == PROC_SUPER_MAGIC) {
+        // Arm the change notice; the table just read is the baseline.
+        pollfd p{fd, POLLPRI, 0};
+        ::poll(&p, 1, 0);
+        m_mountFd = fd;
+        return SysFs::readInto(path, m_mountBuffer, 4 << 20);
+    }
+    if (fd >= 0)
+        ::close(fd);
+    return true;
+}
+
 void DiskMonitor::refreshMounts()
 {
-    if (!SysFs::readInto(m_roots.proc + QLatin1StringView("/self/mountinfo"), m_mountBuffer)) {
+    if (!readMountTable()) {
         m_mountsParsed = false;
         m_groups.clear();
         return;

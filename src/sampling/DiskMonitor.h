@@ -106,6 +106,7 @@ private:
     class StatWorker;
 
     QList<VolumeInfo> volumes();
+    bool readMountTable();
     void refreshMounts();
     QString volumeName(const DiskScan::Mount &mount) const;
     void readRates(DiskSample &sample);
@@ -114,6 +115,7 @@ private:
     Options m_options;
 
     // Volumes: the parsed mount table is kept until mountinfo changes.
+    int m_mountFd = -1; // open on procfs, for its change notices
     QByteArray m_mountBuffer;
     QByteArray m_mountText;
     bool m_mountsParsed = false;

@@ -115,18 +115,13 @@ bool ProcessMonitor::scan(std::vector<Entry> &out)
         const int fd = ::openat(dirFd, path, O_RDONLY | O_CLOEXEC);
         if (fd < 0)
             continue; // gone since the listing
-        ssize_t n = 0;
-        for (;;) {
-            const ssize_t got = ::read(fd, buf + n, sizeof buf - 1 - size_t(n));
-            if (got > 0) {
-                n += got;
-                if (size_t(n) < sizeof buf - 1)
-                    continue;
-            } else if (got < 0 && errno == EINTR) {
-                continue;
-            }
-            break;
-        }
+        // One read: the kernel hands over the whole line at once when the
+        // buffer is large enough, and a second call just to see the end of
+        // the file would cost as much again.
+        ssize_t n;
+        do {
+            n = ::read(fd, buf, sizeof buf - 1);
+        } while (n < 0 && errno == EINTR);
         ::close(fd);
         if (n <= 0)
             continue; // exited while we read

@@ -160,6 +160,7 @@ private Q_SLOTS:
             {QStringLiteral("/mnt/backup copy"), {500 * GB, 100 * GB, true}},
             {QStringLiteral("/var/lib/postgresql"), {300 * GB, 10 * GB, false}},
             {QStringLiteral("/srv/media library"), {300 * GB, 250 * GB, false}},
+            {QStringLiteral("/media"), {300 * GB, 250 * GB, false}},
             {QStringLiteral("/srv/scratch"), {300 * GB, 300 * GB, false}},
             {QStringLiteral("/mnt/weird\\name\ttab"), {1 * GB, 1 * GB, false}},
             {QStringLiteral("/mnt/nas"), {8000 * GB, 1000 * GB, false}},
@@ -177,6 +178,9 @@ private Q_SLOTS:
                                         QStringLiteral("db01"), QStringLiteral("weird\\name\ttab")}));
         QVERIFY(!stat.asked->contains(QStringLiteral("/mnt/nas")));
         QVERIFY(!stat.asked->contains(QStringLiteral("/mnt/backup copy")));
+        // /media is a later bind of the whole media volume: the original
+        // mount keeps its name.
+        QVERIFY(!stat.asked->contains(QStringLiteral("/media")));
 
         // When the preferred mount of a file system cannot be read, another
         // mount of the same file system stands in.
