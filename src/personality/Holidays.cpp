@@ -58,6 +58,18 @@ bool monthAndDay(icu::Calendar &cal, UDate when, int &month, int &day)
     return U_SUCCESS(status);
 }
 
+// ICU's lunar calendar starts these two years a day away from the published
+// calendars: the new moon falls within minutes of midnight in China (6
+// February 2027 at 23:56, 3 February 2030 at 00:07), closer than its moon
+// tables can tell apart. The published day wins; every other festival from
+// 2000 to 2040 agrees with ICU.
+struct NewYearFix {
+    int year;
+    int month, day;       // the published Spring Festival
+    int icuMonth, icuDay; // the day ICU calls lunar 1/1
+};
+constexpr NewYearFix kNewYearFixes[] = {{2027, 2, 6, 2, 7}, {2030, 2, 3, 2, 2}};
+
 Greeting greeting(const char16_t *emoji, LocKey phrase)
 {
     return Greeting{QString::fromUtf16(emoji), phrase, LocKey::holCheer};
@@ -78,6 +90,17 @@ std::optional<Greeting> rules(icu::Calendar *gregorian, icu::Calendar *chinese, 
         return greeting(u"\U0001F383", LocKey::holHalloween);
     if (m == 12 && (d == 24 || d == 25))
         return greeting(u"\U0001F384", LocKey::holChristmas);
+
+    UErrorCode status = U_ZERO_ERROR;
+    const int year = gregorian->get(UCAL_EXTENDED_YEAR, status);
+    for (const NewYearFix &fix : kNewYearFixes) {
+        if (year != fix.year)
+            continue;
+        if (m == fix.month && d == fix.day)
+            return greeting(u"\U0001F9E7", LocKey::holSpring);
+        if (m == fix.icuMonth && d == fix.icuDay)
+            return std::nullopt;
+    }
 
     // The lunar month number alone; a leap month counts as its namesake.
     if (!chinese || !monthAndDay(*chinese, when, m, d))
