@@ -9,6 +9,7 @@
 #include "sampling/ProcessMonitor.h"
 
 #include <QDir>
+#include <QFile>
 
 #include <csignal>
 #include <memory>
@@ -30,30 +31,43 @@ ProcessMonitor &processes()
     return instance;
 }
 
+// Live processes (zombies of an earlier run excluded: they are on their way
+// out).
 int processCount()
 {
     int n = 0;
     for (const QString &name : QDir(QStringLiteral("/proc")).entryList(QDir::Dirs | QDir::NoDotAndDotDot)) {
         bool ok = false;
         name.toInt(&ok);
-        n += ok ? 1 : 0;
+        if (!ok)
+            continue;
+        QFile stat(QStringLiteral("/proc/%1/stat").arg(name));
+        if (!stat.open(QIODevice::ReadOnly))
+            continue;
+        const QByteArray line = stat.readAll();
+        const qsizetype close = line.lastIndexOf(')');
+        n += close > 0 && line.mid(close + 2, 1) != "Z" ? 1 : 0;
     }
     return n;
 }
 
 // Idle children that bring the machine up to `target` processes. They die
-// with the benchmark.
+// with the benchmark. Counted a few times over, since the children of an
+// earlier run may still be on their way out.
 void fillProcessTable(int target)
 {
-    for (int missing = target - processCount(); missing > 0; --missing) {
-        const pid_t pid = fork();
-        if (pid == 0) {
-            prctl(PR_SET_PDEATHSIG, SIGKILL);
-            for (;;)
-                pause();
+    for (int round = 0; round < 5; ++round) {
+        for (int missing = target - processCount(); missing > 0; --missing) {
+            const pid_t pid = fork();
+            if (pid == 0) {
+                prctl(PR_SET_PDEATHSIG, SIGKILL);
+                for (;;)
+                    pause();
+            }
+            if (pid < 0)
+                return;
         }
-        if (pid < 0)
-            break;
+        usleep(100 * 1000);
     }
 }
 

@@ -423,6 +423,7 @@ DiskMonitor::DiskMonitor(SystemRoots roots, Options options)
         m_options.stat = &DiskMonitor::statVolume;
     if (!m_options.clock)
         m_options.clock = &wallClock;
+    m_diskstats = SysFs::KeptFile(m_roots.proc + QLatin1StringView("/diskstats"));
     if (m_options.labelDir.isEmpty() && m_roots.live && m_roots.proc == u"/proc")
         m_options.labelDir = QStringLiteral("/dev/disk/by-label");
 }
@@ -582,7 +583,7 @@ void DiskMonitor::readRates(DiskSample &sample)
     const double now = m_options.clock();
     QByteArray names;
     QHash<QString, DiskScan::DiskBytes> all;
-    if (SysFs::readInto(m_roots.proc + QLatin1StringView("/diskstats"), m_statsBuffer))
+    if (m_diskstats.read(m_statsBuffer))
         all = DiskScan::parseDiskStats(m_statsBuffer, &names);
     // The set of whole disks only changes when a device comes or goes.
     if (names != m_diskNames || !m_physical) {

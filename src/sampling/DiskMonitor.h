@@ -3,6 +3,7 @@
 // (/proc/diskstats).
 
 #include "model/Records.h"
+#include "sampling/SysFs.h"
 #include "sampling/SystemRoots.h"
 
 #include <QByteArray>
@@ -126,6 +127,7 @@ private:
     std::unique_ptr<StatWorker> m_worker;
 
     // Rates: per-disk counters of the previous reading.
+    SysFs::KeptFile m_diskstats;
     QByteArray m_statsBuffer;
     QByteArray m_diskNames;
     std::optional<QSet<QString>> m_physical;
