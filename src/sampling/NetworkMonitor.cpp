@@ -96,11 +96,28 @@ bool NetworkMonitor::readCounters(quint64 &in, quint64 &out, double &newIn, doub
 {
     if (!m_dev.read(m_buffer, 1 << 20))
         return false;
-    in = out = 0;
-    newIn = newOut = 0;
     for (Interface &i : m_interfaces)
         i.seen = false;
 
+    // Inside a container's network namespace nothing has a device behind
+    // it; there every interface but loopback counts instead.
+    struct Sums {
+        quint64 in = 0, out = 0;
+        double newIn = 0, newOut = 0;
+        int interfaces = 0;
+        void add(const Interface &i, quint64 rx, quint64 tx, bool known)
+        {
+            if (known) {
+                newIn += rx >= i.in ? double(rx - i.in) : 0.0;
+                newOut += tx >= i.out ? double(tx - i.out) : 0.0;
+            }
+            in += rx;
+            out += tx;
+            ++interfaces;
+        }
+    } counted, fallback;
+
+    size_t hint = 0; // the file lists interfaces in the same order each time
     const char *p = m_buffer.constData();
     const char *const end = p + m_buffer.size();
     while (p < end) {
@@ -127,36 +144,32 @@ bool NetworkMonitor::readCounters(quint64 &in, quint64 &out, double &newIn, doub
                 q = e;
             }
             if (got == 9 && !name.isEmpty()) {
-                const quint64 rx = fields[0];
-                const quint64 tx = fields[8];
-                Interface *known = nullptr;
-                for (Interface &i : m_interfaces) {
-                    if (i.name == name) {
-                        known = &i;
-                        break;
-                    }
+                size_t index = hint < m_interfaces.size() && m_interfaces[hint].name == name ? hint : m_interfaces.size();
+                for (size_t i = 0; index == m_interfaces.size() && i < m_interfaces.size(); ++i) {
+                    if (m_interfaces[i].name == name)
+                        index = i;
                 }
-                if (known && !known->seen) {
-                    if (known->counted) {
-                        newIn += rx >= known->in ? double(rx - known->in) : 0.0;
-                        newOut += tx >= known->out ? double(tx - known->out) : 0.0;
-                    }
-                } else if (!known) {
+                const bool known = index < m_interfaces.size();
+                if (!known) {
                     Interface fresh;
                     fresh.name = name.toByteArray();
                     fresh.counted = isCounted(fresh.name);
+                    fresh.loopback = fresh.name == "lo";
                     m_interfaces.push_back(std::move(fresh));
-                    known = &m_interfaces.back();
                 }
-                if (!known->seen) {
-                    known->seen = true;
-                    known->in = rx;
-                    known->out = tx;
-                    if (known->counted) {
-                        in += rx;
-                        out += tx;
-                    }
+                Interface &i = m_interfaces[index];
+                if (!i.seen) { // a repeated name counts once
+                    const quint64 rx = fields[0];
+                    const quint64 tx = fields[8];
+                    if (i.counted)
+                        counted.add(i, rx, tx, known);
+                    if (!i.loopback)
+                        fallback.add(i, rx, tx, known);
+                    i.seen = true;
+                    i.in = rx;
+                    i.out = tx;
                 }
+                hint = index + 1;
             }
         }
         p = eol + 1;
@@ -164,6 +177,12 @@ bool NetworkMonitor::readCounters(quint64 &in, quint64 &out, double &newIn, doub
     // Interfaces that went away are forgotten; should one come back, it
     // starts afresh.
     std::erase_if(m_interfaces, [](const Interface &i) { return !i.seen; });
+
+    const Sums &use = counted.interfaces > 0 || !m_countOnly.isEmpty() ? counted : fallback;
+    in = use.in;
+    out = use.out;
+    newIn = use.newIn;
+    newOut = use.newOut;
     return true;
 }
 

@@ -24,7 +24,8 @@ public:
     explicit NetworkMonitor(SystemRoots roots = {});
 
     // Rates since the previous reading over the physical interfaces (those
-    // with a device behind them). The first reading only primes. The
+    // with a device behind them; where there is none, as in a container,
+    // everything but loopback). The first reading only primes. The
     // interface name and address are looked up again only when
     // `refreshAddress` is true; otherwise the last ones are kept.
     NetworkSample read(bool refreshAddress);
@@ -46,6 +47,7 @@ private:
         quint64 in = 0;
         quint64 out = 0;
         bool counted = false;
+        bool loopback = false;
         bool seen = false;
     };
 

@@ -173,6 +173,25 @@ private Q_SLOTS:
         QCOMPARE(s.totalIn, 5500.0);
     }
 
+    void withoutPhysicalInterfacesEverythingButLoopbackCounts()
+    {
+        // A container: its eth0 is one end of a veth pair.
+        ScratchTree proc;
+        ScratchTree sys;
+        QVERIFY(sys.write("class/net/eth0/type", "1\n"));
+        QVERIFY(sys.write("class/net/lo/type", "772\n"));
+        double now = 0;
+        NetworkMonitor monitor(proc.asProc(sys.path()));
+        monitor.setClock([&] { return now; });
+        QVERIFY(proc.write("net/dev", devText({{"lo", 500, 500}, {"eth0", 1000, 2000}})));
+        QCOMPARE(monitor.read(false).totalIn, 1000.0);
+        now += 1;
+        QVERIFY(proc.write("net/dev", devText({{"lo", 9500, 9500}, {"eth0", 1500, 2100}})));
+        const NetworkSample s = monitor.read(false);
+        QCOMPARE(s.downRate, 500.0);
+        QCOMPARE(s.upRate, 100.0);
+    }
+
     void damagedOrMissingCounters()
     {
         Rig rig;
