@@ -305,8 +305,8 @@ public:
         m_shared->wake.notify_all();
     }
 
-    // Starts a refresh of `groups` unless one is still running, waits up to
-    // `wait` for it and returns the latest figures per file system.
+    // Starts a refresh of `groups` unless one is still running, waits a
+    // moment for it and returns the latest figures per file system.
     QHash<QString, Result> refresh(const QList<QList<DiskScan::Mount>> &groups)
     {
         Shared &s = *m_shared;
@@ -389,6 +389,8 @@ private:
                             s.results.insert(key, {mount, *figures});
                         return;
                     }
+                    if (s.stop)
+                        return;
                     s.busy = false;
                     if (figures) {
                         s.results.insert(key, {mount, *figures});
