@@ -74,7 +74,8 @@ private slots:
         const QString path = Settings::store().fileName();
         QFile file(path);
         QVERIFY(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
-        const QByteArray damaged = "[General]\npetName=Rex\n\x01\x02garbage\x00line\nrefreshInterval=2\n=\n[[[\n";
+        static const char raw[] = "[General]\npetName=Rex\n\x01\x02garbage\0line\nrefreshInterval=2\n=\n[[[\n";
+        const QByteArray damaged(raw, sizeof raw - 1);
         file.write(damaged);
         file.close();
         QSettings fresh(path, QSettings::IniFormat);
