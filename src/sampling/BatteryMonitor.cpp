@@ -1,6 +1,6 @@
 #include "sampling/BatteryMonitor.h"
 
-#include "sampling/SysAttr.h"
+#include "sampling/SysFs.h"
 
 using namespace Qt::StringLiterals;
 
@@ -28,10 +28,10 @@ BatteryMonitor::BatteryMonitor(SystemRoots roots)
 void BatteryMonitor::readBattery(const QString &dir, BatterySample &s, QString &status) const
 {
     const auto value = [&dir](QLatin1StringView name) -> std::optional<double> {
-        const std::optional<qint64> v = SysAttr::readLong(dir + u'/' + name);
+        const std::optional<qint64> v = SysFs::readLong(dir + u'/' + name);
         return v ? std::optional<double>(double(*v)) : std::nullopt;
     };
-    status = SysAttr::readLine(dir + "/status"_L1).value_or(QString());
+    status = SysFs::readLine(dir + "/status"_L1).value_or(QString());
 
     const auto energyNow = value("energy_now"_L1);
     const auto energyFull = value("energy_full"_L1);
@@ -103,17 +103,17 @@ BatterySample BatteryMonitor::read()
     bool online = false;
     QString status;
 
-    for (const QString &name : SysAttr::entries(base)) {
+    for (const QString &name : SysFs::entries(base)) {
         const QString dir = base + name;
-        const std::optional<QString> type = SysAttr::readLine(dir + "/type"_L1);
-        if (!type || SysAttr::readLine(dir + "/scope"_L1) == "Device"_L1)
+        const std::optional<QString> type = SysFs::readLine(dir + "/type"_L1);
+        if (!type || SysFs::readLine(dir + "/scope"_L1) == "Device"_L1)
             continue;
         if (*type == "Mains"_L1 || *type == "USB"_L1) {
             externalSupply = true;
-            if (SysAttr::readLong(dir + "/online"_L1).value_or(0) > 0)
+            if (SysFs::readLong(dir + "/online"_L1).value_or(0) > 0)
                 online = true;
         } else if (*type == "Battery"_L1) {
-            if (SysAttr::readLong(dir + "/present"_L1).value_or(1) == 0)
+            if (SysFs::readLong(dir + "/present"_L1).value_or(1) == 0)
                 continue;
             readBattery(dir, sample, status);
         }

@@ -214,7 +214,7 @@ QHash<QString, QString> readLabels(const QString &byLabelDir)
     QHash<QString, QString> labels;
     if (byLabelDir.isEmpty())
         return labels;
-    for (const QString &entry : SysFs::listDir(byLabelDir)) {
+    for (const QString &entry : SysFs::entries(byLabelDir)) {
         const QFileInfo link(byLabelDir + u'/' + entry);
         if (!link.isSymLink())
             continue;
@@ -251,22 +251,20 @@ QHash<QString, DiskBytes> parseDiskStats(QByteArrayView text, QByteArray *names)
 
 std::optional<QSet<QString>> physicalDisks(const QString &sysBlockDir)
 {
-    if (!QFileInfo(sysBlockDir).isDir())
+    if (!SysFs::exists(sysBlockDir))
         return std::nullopt;
     static const QLatin1StringView virtualPrefixes[] = {
         QLatin1StringView("loop"), QLatin1StringView("ram"), QLatin1StringView("zram"),
         QLatin1StringView("dm-"),  QLatin1StringView("md"),  QLatin1StringView("nbd"),
     };
     QSet<QString> disks;
-    for (const QString &name : SysFs::listDir(sysBlockDir)) {
+    for (const QString &name : SysFs::entries(sysBlockDir)) {
         if (std::any_of(std::begin(virtualPrefixes), std::end(virtualPrefixes),
                         [&](QLatin1StringView p) { return name.startsWith(p); }))
             continue;
         // Partitions live below their disk, never directly in block/; a
         // real disk has a link to the hardware that carries it.
-        struct stat st {};
-        const QByteArray device = QFile::encodeName(sysBlockDir + u'/' + name + QLatin1StringView("/device"));
-        if (::lstat(device.constData(), &st) != 0)
+        if (!SysFs::linkOrFileExists(sysBlockDir + u'/' + name + QLatin1StringView("/device")))
             continue;
         disks.insert(QString(name).replace(u'!', u'/'));
     }
@@ -519,7 +517,7 @@ void DiskMonitor::refreshMounts()
     SysFs::readInto(m_roots.proc + QLatin1StringView("/filesystems"), m_fsBuffer, 64 * 1024);
     m_groups = DiskScan::volumeCandidates(m_mountText, m_fsBuffer);
     m_labels = DiskScan::readLabels(m_options.labelDir);
-    m_hostName = SysFs::readText(m_roots.proc + QLatin1StringView("/sys/kernel/hostname")).value_or(QString());
+    m_hostName = SysFs::readLine(m_roots.proc + QLatin1StringView("/sys/kernel/hostname")).value_or(QString());
 }
 
 QString DiskMonitor::volumeName(const DiskScan::Mount &mount) const

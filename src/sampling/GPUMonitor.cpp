@@ -1,6 +1,6 @@
 #include "sampling/GPUMonitor.h"
 
-#include "sampling/SysAttr.h"
+#include "sampling/SysFs.h"
 
 using namespace Qt::StringLiterals;
 
@@ -18,21 +18,21 @@ GPUSample GPUMonitor::read()
     GPUSample sample;
     bool sawSleeping = false;
     const QString drm = m_roots.sys + "/class/drm/"_L1;
-    for (const QString &card : SysAttr::entries(drm)) {
+    for (const QString &card : SysFs::entries(drm)) {
         // card0, card1 …; connectors such as card0-DP-1 have no statistics.
-        if (SysAttr::indexedName(card, QLatin1StringView("card"), QLatin1StringView("")) < 0)
+        if (SysFs::indexedName(card, QLatin1StringView("card"), QLatin1StringView("")) < 0)
             continue;
         const QString device = drm + card + "/device/"_L1;
         const QString busyFile = device + "gpu_busy_percent"_L1;
-        if (!SysAttr::exists(busyFile))
+        if (!SysFs::exists(busyFile))
             continue;
         // Reading a sleeping card would wake it. Asleep it is idle, which
         // counts only when no awake card has a figure.
-        if (SysAttr::readLine(device + "power/runtime_status"_L1) == "suspended"_L1) {
+        if (SysFs::readLine(device + "power/runtime_status"_L1) == "suspended"_L1) {
             sawSleeping = true;
             continue;
         }
-        if (const std::optional<qint64> busy = SysAttr::readLong(busyFile)) {
+        if (const std::optional<qint64> busy = SysFs::readLong(busyFile)) {
             sample.hasUsage = true;
             sample.usage = std::clamp(double(*busy) / 100.0, 0.0, 1.0);
             return sample;

@@ -94,7 +94,7 @@ void MemoryMonitor::rescanZram()
 {
     m_zramStats.clear();
     const QString block = m_roots.sys + QStringLiteral("/block/");
-    for (const QString &name : SysFs::listDir(block)) {
+    for (const QString &name : SysFs::entries(block)) {
         if (name.startsWith(QLatin1String("zram")))
             m_zramStats.emplace_back(block + name + QStringLiteral("/mm_stat"));
     }

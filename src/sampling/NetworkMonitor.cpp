@@ -83,9 +83,8 @@ bool NetworkMonitor::isCounted(const QByteArray &name) const
     // Physical interfaces have a device link; loopback, bridges, veth pairs,
     // tunnels and the like do not, so traffic that passes through several of
     // them is counted once, where it leaves the machine.
-    const QByteArray link = QFile::encodeName(m_roots.sys) + "/class/net/" + name + "/device";
-    struct stat st;
-    return ::lstat(link.constData(), &st) == 0;
+    return SysFs::linkOrFileExists(m_roots.sys + QLatin1StringView("/class/net/") + QString::fromLocal8Bit(name)
+                                   + QLatin1StringView("/device"));
 }
 
 // Sums the counted interfaces' counters into `in`/`out` and, for interfaces

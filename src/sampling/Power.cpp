@@ -1,6 +1,6 @@
 #include "sampling/Power.h"
 
-#include "sampling/SysAttr.h"
+#include "sampling/SysFs.h"
 
 using namespace Qt::StringLiterals;
 
@@ -34,11 +34,11 @@ void PowerMeter::discover()
     // counters appear under the same names. intel-rapl-mmio:* repeats the
     // package counters and is left out.
     const QString powercap = m_roots.sys + "/class/powercap/"_L1;
-    for (const QString &entry : SysAttr::entries(powercap)) {
+    for (const QString &entry : SysFs::entries(powercap)) {
         if (!entry.startsWith(u"intel-rapl:"))
             continue;
         const QString dir = powercap + entry;
-        const QString name = SysAttr::readLine(dir + "/name"_L1).value_or(QString());
+        const QString name = SysFs::readLine(dir + "/name"_L1).value_or(QString());
         Kind kind;
         if (name.startsWith(u"package"))
             kind = Kind::package;
@@ -50,8 +50,8 @@ void PowerMeter::discover()
             kind = Kind::dram;
         else
             continue; // psys and anything newer: not part of the package sum
-        const double range = double(std::max<qint64>(SysAttr::readLong(dir + "/max_energy_range_uj"_L1).value_or(0), 0));
-        m_zones.append({kind, SysAttr::native(dir + "/energy_uj"_L1), range});
+        const double range = double(std::max<qint64>(SysFs::readLong(dir + "/max_energy_range_uj"_L1).value_or(0), 0));
+        m_zones.append({kind, SysFs::native(dir + "/energy_uj"_L1), range});
         m_hasCore = m_hasCore || kind == Kind::core;
     }
 
@@ -59,15 +59,15 @@ void PowerMeter::discover()
     // whole chip's, which the package counter already holds. Only boards
     // with a power cap are discrete cards.
     const QString hwmon = m_roots.sys + "/class/hwmon/"_L1;
-    for (const QString &entry : SysAttr::entries(hwmon)) {
+    for (const QString &entry : SysFs::entries(hwmon)) {
         const QString dir = hwmon + entry;
-        if (SysAttr::readLine(dir + "/name"_L1) != "amdgpu"_L1 || !SysAttr::exists(dir + "/power1_cap"_L1))
+        if (SysFs::readLine(dir + "/name"_L1) != "amdgpu"_L1 || !SysFs::exists(dir + "/power1_cap"_L1))
             continue;
         QString file = dir + "/power1_average"_L1;
-        if (!SysAttr::exists(file))
+        if (!SysFs::exists(file))
             file = dir + "/power1_input"_L1;
-        if (SysAttr::exists(file))
-            m_boards.append({SysAttr::native(file), dir + "/device/power/runtime_status"_L1});
+        if (SysFs::exists(file))
+            m_boards.append({SysFs::native(file), dir + "/device/power/runtime_status"_L1});
     }
 }
 
@@ -83,9 +83,9 @@ double PowerMeter::boardWatts(const std::vector<nvml::NvmlReading> &nvidia, doub
             watts += now.powerW;
     }
     for (const Board &board : m_boards) {
-        if (SysAttr::readLine(board.runtimeStatus) == "suspended"_L1)
+        if (SysFs::readLine(board.runtimeStatus) == "suspended"_L1)
             continue;
-        if (const std::optional<qint64> microwatts = SysAttr::readLong(board.power); microwatts && *microwatts > 0)
+        if (const std::optional<qint64> microwatts = SysFs::readLong(board.power); microwatts && *microwatts > 0)
             watts += double(*microwatts) / 1e6;
     }
     return watts;
@@ -101,7 +101,7 @@ QmPowerReading PowerMeter::read()
     counters.reserve(size_t(m_zones.size()));
     bool readable = !m_zones.isEmpty();
     for (const Zone &zone : std::as_const(m_zones)) {
-        const std::optional<qint64> uj = SysAttr::readLong(zone.energy);
+        const std::optional<qint64> uj = SysFs::readLong(zone.energy);
         if (!uj || *uj < 0) {
             readable = false;
             break;

@@ -1,6 +1,6 @@
 #include "sampling/SMC.h"
 
-#include "sampling/SysAttr.h"
+#include "sampling/SysFs.h"
 
 using namespace Qt::StringLiterals;
 
@@ -236,32 +236,32 @@ public:
     explicit LiveTable(const QString &dir)
         : m_dir(dir)
     {
-        if (SysAttr::isWritable(dir + "/key_at_index"_L1))
-            m_count = int(std::clamp<qint64>(SysAttr::readLong(dir + "/key_count"_L1).value_or(0), 0, 65535));
+        if (SysFs::isWritable(dir + "/key_at_index"_L1))
+            m_count = int(std::clamp<qint64>(SysFs::readLong(dir + "/key_count"_L1).value_or(0), 0, 65535));
     }
 
 protected:
     bool select(int index)
     {
-        return SysAttr::writeText(m_dir + "/key_at_index"_L1, QByteArray::number(index));
+        return SysFs::writeText(m_dir + "/key_at_index"_L1, QByteArray::number(index));
     }
 
     std::optional<QString> nameAt(int index) override
     {
         if (!select(index))
             return std::nullopt;
-        return SysAttr::readLine(m_dir + "/key_at_index_name"_L1, false);
+        return SysFs::readLine(m_dir + "/key_at_index_name"_L1, false);
     }
 
     std::optional<Entry> entryAt(int index) override
     {
         if (!select(index))
             return std::nullopt;
-        auto name = SysAttr::readLine(m_dir + "/key_at_index_name"_L1, false);
-        auto type = SysAttr::readLine(m_dir + "/key_at_index_type"_L1, false);
-        auto data = SysAttr::readBytes(m_dir + "/key_at_index_data"_L1, 32);
+        auto name = SysFs::readLine(m_dir + "/key_at_index_name"_L1, false);
+        auto type = SysFs::readLine(m_dir + "/key_at_index_type"_L1, false);
+        auto data = SysFs::readFile(m_dir + "/key_at_index_data"_L1, 32);
         // Another process may have moved the index in between.
-        auto again = SysAttr::readLine(m_dir + "/key_at_index_name"_L1, false);
+        auto again = SysFs::readLine(m_dir + "/key_at_index_name"_L1, false);
         if (!name || !type || !data || again != name)
             return std::nullopt;
         return Entry{*name, *type, *data};
@@ -277,7 +277,7 @@ public:
     explicit CapturedTable(const QString &dir)
         : m_dir(dir + "/keys/"_L1)
     {
-        const QStringList names = SysAttr::entries(m_dir);
+        const QStringList names = SysFs::entries(m_dir);
         for (const QString &n : names) {
             bool ok = false;
             const int i = n.toInt(&ok);
@@ -289,15 +289,15 @@ public:
 protected:
     std::optional<QString> nameAt(int index) override
     {
-        return SysAttr::readLine(m_dir + QString::number(index) + "/name"_L1, false);
+        return SysFs::readLine(m_dir + QString::number(index) + "/name"_L1, false);
     }
 
     std::optional<Entry> entryAt(int index) override
     {
         const QString base = m_dir + QString::number(index);
-        auto name = SysAttr::readLine(base + "/name"_L1, false);
-        auto type = SysAttr::readLine(base + "/type"_L1, false);
-        auto data = SysAttr::readBytes(base + "/data"_L1, 32);
+        auto name = SysFs::readLine(base + "/name"_L1, false);
+        auto type = SysFs::readLine(base + "/type"_L1, false);
+        auto data = SysFs::readFile(base + "/data"_L1, 32);
         if (!name || !type || !data)
             return std::nullopt;
         return Entry{*name, *type, *data};
@@ -323,12 +323,12 @@ public:
     explicit Attributes(const QString &dir)
     {
         int fanCount = 0;
-        for (const QString &name : SysAttr::entries(dir)) {
-            if (const int t = SysAttr::indexedName(name, QLatin1StringView("temp"), QLatin1StringView("_label")); t >= 0) {
-                const std::optional<QString> label = SysAttr::readLine(dir + u'/' + name);
+        for (const QString &name : SysFs::entries(dir)) {
+            if (const int t = SysFs::indexedName(name, QLatin1StringView("temp"), QLatin1StringView("_label")); t >= 0) {
+                const std::optional<QString> label = SysFs::readLine(dir + u'/' + name);
                 if (label && !label->isEmpty())
                     add(*label, dir + QStringLiteral("/temp%1_input").arg(t), 0.001);
-            } else if (const int f = SysAttr::indexedName(name, QLatin1StringView("fan"), QLatin1StringView("_input")); f >= 1) {
+            } else if (const int f = SysFs::indexedName(name, QLatin1StringView("fan"), QLatin1StringView("_input")); f >= 1) {
                 fanCount = std::max(fanCount, f);
                 const QString prefix = dir + QStringLiteral("/fan%1_").arg(f);
                 const QString key = QStringLiteral("F%1").arg(f - 1);
@@ -347,7 +347,7 @@ public:
         if (key == SMC::fourCharCode(QStringLiteral("FNum")) && m_fanCount > 0)
             return Found{typeCode(QStringLiteral("ui8")), 1, -1};
         for (int i = 0; i < m_items.size(); ++i) {
-            if (m_items[i].key == key && SysAttr::exists(m_items[i].path))
+            if (m_items[i].key == key && SysFs::exists(m_items[i].path))
                 return Found{typeCode(QStringLiteral("flt")), 4, i};
         }
         return std::nullopt;
@@ -359,7 +359,7 @@ public:
             return QByteArray(1, char(std::min(m_fanCount, 255)));
         if (index >= m_items.size())
             return std::nullopt;
-        const std::optional<qint64> raw = SysAttr::readLong(m_items[index].path);
+        const std::optional<qint64> raw = SysFs::readLong(m_items[index].path);
         if (!raw)
             return std::nullopt;
         return floatBytes(float(double(*raw) * m_items[index].scale));
@@ -402,7 +402,7 @@ SMC &SMC::shared()
 
 void SMC::open()
 {
-    if (!SysAttr::exists(m_dir + "/key_count"_L1) && !SysAttr::exists(m_dir + "/name"_L1))
+    if (!SysFs::exists(m_dir + "/key_count"_L1) && !SysFs::exists(m_dir + "/name"_L1))
         return;
     // Only the real driver is ever written to.
     if (m_roots.live && m_roots.sys == "/sys"_L1)

@@ -1,6 +1,6 @@
 #include "sampling/SensorMonitor.h"
 
-#include "sampling/SysAttr.h"
+#include "sampling/SysFs.h"
 
 using namespace Qt::StringLiterals;
 
@@ -104,29 +104,29 @@ void SensorMonitor::discover()
     m_discovered = true;
 
     auto addTemp = [this](const QString &path, const QString &name, double scale, const QString &status = {}) {
-        m_temps.append({SysAttr::native(path), name, scale, classify(name), status});
+        m_temps.append({SysFs::native(path), name, scale, classify(name), status});
     };
 
     // Power supplies: the system battery's own temperature (tenths of a
     // degree). A supply may also have an hwmon chip of its own name, which
     // repeats the same figures and is skipped below.
     const QString supplies = m_roots.sys + "/class/power_supply/"_L1;
-    const QStringList supplyNames = SysAttr::entries(supplies);
+    const QStringList supplyNames = SysFs::entries(supplies);
     for (const QString &name : supplyNames) {
         const QString dir = supplies + name;
-        if (SysAttr::readLine(dir + "/type"_L1) != "Battery"_L1 || SysAttr::readLine(dir + "/scope"_L1) == "Device"_L1)
+        if (SysFs::readLine(dir + "/type"_L1) != "Battery"_L1 || SysFs::readLine(dir + "/scope"_L1) == "Device"_L1)
             continue;
-        if (SysAttr::exists(dir + "/temp"_L1))
+        if (SysFs::exists(dir + "/temp"_L1))
             addTemp(dir + "/temp"_L1, name + " battery"_L1, 0.1);
     }
 
     const QString hwmon = m_roots.sys + "/class/hwmon/"_L1;
     bool hwmonHasTemps = false;
-    for (const QString &entry : SysAttr::entries(hwmon)) {
+    for (const QString &entry : SysFs::entries(hwmon)) {
         const QString dir = hwmon + entry;
-        QString chip = SysAttr::readLine(dir + "/name"_L1).value_or(QString());
+        QString chip = SysFs::readLine(dir + "/name"_L1).value_or(QString());
         if (chip.isEmpty())
-            chip = SysAttr::readLine(dir + "/device/name"_L1).value_or(QString());
+            chip = SysFs::readLine(dir + "/device/name"_L1).value_or(QString());
         if (chip.isEmpty())
             chip = entry;
         if (supplyNames.contains(chip))
@@ -134,7 +134,7 @@ void SensorMonitor::discover()
 
         // Older drivers keep their files on the parent device.
         QString base = dir;
-        QStringList files = SysAttr::entries(base);
+        QStringList files = SysFs::entries(base);
         const auto hasInputs = [](const QStringList &names) {
             return std::any_of(names.begin(), names.end(), [](const QString &n) {
                 return n.endsWith(u"_input") && (n.startsWith(u"temp") || n.startsWith(u"fan"));
@@ -142,22 +142,22 @@ void SensorMonitor::discover()
         };
         if (!hasInputs(files)) {
             base = dir + "/device"_L1;
-            files = SysAttr::entries(base);
+            files = SysFs::entries(base);
         }
         const QString status = wakesOnRead(chip) ? dir + "/device/power/runtime_status"_L1 : QString();
 
         for (const QString &file : files) {
-            if (const int t = SysAttr::indexedName(file, QLatin1StringView("temp"), QLatin1StringView("_input")); t >= 0) {
-                QString label = SysAttr::readLine(base + QStringLiteral("/temp%1_label").arg(t)).value_or(QString());
+            if (const int t = SysFs::indexedName(file, QLatin1StringView("temp"), QLatin1StringView("_input")); t >= 0) {
+                QString label = SysFs::readLine(base + QStringLiteral("/temp%1_label").arg(t)).value_or(QString());
                 if (label.isEmpty())
                     label = QStringLiteral("temp%1").arg(t);
                 addTemp(base + u'/' + file, chip + u' ' + label, 0.001, status);
                 hwmonHasTemps = true;
-            } else if (const int f = SysAttr::indexedName(file, QLatin1StringView("fan"), QLatin1StringView("_input")); f >= 0) {
+            } else if (const int f = SysFs::indexedName(file, QLatin1StringView("fan"), QLatin1StringView("_input")); f >= 0) {
                 const QString prefix = base + QStringLiteral("/fan%1_").arg(f);
-                m_fans.append({SysAttr::native(base + u'/' + file),
-                               double(std::max<qint64>(SysAttr::readLong(prefix + "min"_L1).value_or(0), 0)),
-                               double(std::max<qint64>(SysAttr::readLong(prefix + "max"_L1).value_or(0), 0)),
+                m_fans.append({SysFs::native(base + u'/' + file),
+                               double(std::max<qint64>(SysFs::readLong(prefix + "min"_L1).value_or(0), 0)),
+                               double(std::max<qint64>(SysFs::readLong(prefix + "max"_L1).value_or(0), 0)),
                                status});
             }
         }
@@ -167,23 +167,23 @@ void SensorMonitor::discover()
     // elsewhere they repeat what hwmon already has.
     if (!hwmonHasTemps) {
         const QString thermal = m_roots.sys + "/class/thermal/"_L1;
-        for (const QString &zone : SysAttr::entries(thermal)) {
+        for (const QString &zone : SysFs::entries(thermal)) {
             if (!zone.startsWith(u"thermal_zone"))
                 continue;
-            const QString type = SysAttr::readLine(thermal + zone + "/type"_L1).value_or(QString());
+            const QString type = SysFs::readLine(thermal + zone + "/type"_L1).value_or(QString());
             addTemp(thermal + zone + "/temp"_L1, type.isEmpty() ? zone : type, 0.001);
         }
     }
 
     // Some drivers list inputs they cannot read (a sensor the board does not
     // wire up answers with an error); keep only those that answer now.
-    m_temps.removeIf([this](const TempSource &s) { return !isAsleep(s.runtimeStatus) && !SysAttr::readLong(s.path); });
-    m_fans.removeIf([this](const FanSource &f) { return !isAsleep(f.runtimeStatus) && !SysAttr::readLong(f.input); });
+    m_temps.removeIf([this](const TempSource &s) { return !isAsleep(s.runtimeStatus) && !SysFs::readLong(s.path); });
+    m_fans.removeIf([this](const FanSource &f) { return !isAsleep(f.runtimeStatus) && !SysFs::readLong(f.input); });
 }
 
 bool SensorMonitor::isAsleep(const QString &runtimeStatus) const
 {
-    return !runtimeStatus.isEmpty() && SysAttr::readLine(runtimeStatus) == "suspended"_L1;
+    return !runtimeStatus.isEmpty() && SysFs::readLine(runtimeStatus) == "suspended"_L1;
 }
 
 SensorSample SensorMonitor::read()
@@ -212,7 +212,7 @@ SensorSample SensorMonitor::read()
     for (const TempSource &source : std::as_const(m_temps)) {
         if (isAsleep(source.runtimeStatus))
             continue;
-        const std::optional<qint64> raw = SysAttr::readLong(source.path);
+        const std::optional<qint64> raw = SysFs::readLong(source.path);
         if (!raw) {
             m_stale = true; // gone, or the layout changed: walk again next time
             continue;
@@ -268,7 +268,7 @@ SensorSample SensorMonitor::read()
         for (qsizetype i = 0; i < m_fans.size(); ++i) {
             if (isAsleep(m_fans[i].runtimeStatus))
                 continue;
-            const std::optional<qint64> rpm = SysAttr::readLong(m_fans[i].input);
+            const std::optional<qint64> rpm = SysFs::readLong(m_fans[i].input);
             if (!rpm) {
                 m_stale = true;
                 continue;

@@ -1,18 +1,190 @@
 #include "sampling/SysFs.h"
 
-#include <QDir>
-#include <QFileInfo>
-
+#include <algorithm>
+#include <atomic>
 #include <cerrno>
+#include <dirent.h>
 #include <fcntl.h>
+#include <sys/stat.h>
 #include <unistd.h>
 #include <utility>
 
 namespace SysFs {
 
+namespace {
+
+std::atomic<Recorder> g_recorder{nullptr};
+
+inline void note(const char *nativePath)
+{
+    if (const Recorder r = g_recorder.load(std::memory_order_relaxed))
+        r(nativePath);
+}
+
+} // namespace
+
+namespace {
+
+// Reads at most `cap` bytes; -1 on failure. O_NONBLOCK keeps a FIFO or other
+// odd file planted in a snapshot from stalling the tick.
+ssize_t readSmall(const char *path, char *buffer, size_t cap)
+{
+    note(path);
+    const int fd = ::open(path, O_RDONLY | O_CLOEXEC | O_NONBLOCK);
+    if (fd < 0)
+        return -1;
+    size_t total = 0;
+    while (total < cap) {
+        const ssize_t got = ::read(fd, buffer + total, cap - total);
+        if (got < 0) {
+            if (errno == EINTR)
+                continue;
+            ::close(fd);
+            return -1;
+        }
+        if (got == 0)
+            break;
+        total += size_t(got);
+    }
+    ::close(fd);
+    return ssize_t(total);
+}
+
+bool isBlank(char c)
+{
+    return c == ' ' || c == '\t' || c == '\n' || c == '\r';
+}
+
+} // namespace
+
+std::optional<qint64> readLong(const char *nativePath)
+{
+    char buffer[64];
+    const ssize_t n = readSmall(nativePath, buffer, sizeof buffer);
+    if (n <= 0 || size_t(n) == sizeof buffer) // empty, or too long to be one number
+        return std::nullopt;
+    const char *p = buffer;
+    const char *end = buffer + n;
+    while (p < end && isBlank(*p))
+        ++p;
+    while (end > p && isBlank(end[-1]))
+        --end;
+    bool negative = false;
+    if (p < end && (*p == '-' || *p == '+')) {
+        negative = *p == '-';
+        ++p;
+    }
+    if (p == end)
+        return std::nullopt;
+    quint64 value = 0;
+    for (; p < end; ++p) {
+        if (*p < '0' || *p > '9')
+            return std::nullopt;
+        if (value > (quint64(1) << 62)) // far beyond anything the kernel reports
+            return std::nullopt;
+        value = value * 10 + quint64(*p - '0');
+    }
+    return negative ? -qint64(value) : qint64(value);
+}
+
+std::optional<qint64> readLong(const QString &path)
+{
+    return readLong(native(path).constData());
+}
+
+std::optional<QString> readLine(const QString &path, bool trim)
+{
+    char buffer[512];
+    const ssize_t n = readSmall(native(path).constData(), buffer, sizeof buffer);
+    if (n < 0)
+        return std::nullopt;
+    qsizetype len = 0;
+    while (len < n && buffer[len] != '\n' && buffer[len] != '\0')
+        ++len;
+    const QString line = QString::fromUtf8(buffer, len);
+    return trim ? line.trimmed() : line;
+}
+
+bool writeText(const QString &path, const QByteArray &text)
+{
+    const int fd = ::open(native(path).constData(), O_WRONLY | O_CLOEXEC | O_NONBLOCK);
+    if (fd < 0)
+        return false;
+    const ssize_t n = ::write(fd, text.constData(), size_t(text.size()));
+    ::close(fd);
+    return n == text.size();
+}
+
+bool isWritable(const QString &path)
+{
+    return ::access(native(path).constData(), W_OK) == 0;
+}
+
+bool naturalLess(const QString &a, const QString &b)
+{
+    qsizetype i = 0, j = 0;
+    while (i < a.size() && j < b.size()) {
+        if (a[i].isDigit() && b[j].isDigit()) {
+            qsizetype ie = i, je = j;
+            while (ie < a.size() && a[ie].isDigit())
+                ++ie;
+            while (je < b.size() && b[je].isDigit())
+                ++je;
+            const qulonglong x = a.mid(i, ie - i).toULongLong();
+            const qulonglong y = b.mid(j, je - j).toULongLong();
+            if (x != y)
+                return x < y;
+            i = ie;
+            j = je;
+            continue;
+        }
+        if (a[i] != b[j])
+            return a[i] < b[j];
+        ++i;
+        ++j;
+    }
+    return a.size() - i < b.size() - j;
+}
+
+QStringList entries(const QString &dir)
+{
+    QStringList names;
+    const QByteArray path = native(dir);
+    note(path.constData());
+    DIR *d = ::opendir(path.constData());
+    if (!d)
+        return names;
+    while (const dirent *e = ::readdir(d)) {
+        if (e->d_name[0] == '.' && (e->d_name[1] == '\0' || (e->d_name[1] == '.' && e->d_name[2] == '\0')))
+            continue;
+        names.append(QString::fromLocal8Bit(e->d_name));
+    }
+    ::closedir(d);
+    std::sort(names.begin(), names.end(), naturalLess);
+    return names;
+}
+
+int indexedName(const QString &name, QLatin1StringView prefix, QLatin1StringView suffix)
+{
+    if (!name.startsWith(prefix) || !name.endsWith(suffix))
+        return -1;
+    const qsizetype len = name.size() - prefix.size() - suffix.size();
+    if (len <= 0 || len > 6)
+        return -1;
+    int value = 0;
+    for (qsizetype k = prefix.size(); k < prefix.size() + len; ++k) {
+        if (!name[k].isDigit())
+            return -1;
+        value = value * 10 + name[k].digitValue();
+    }
+    return value;
+}
+
+
 bool readInto(const QString &path, QByteArray &buffer, qsizetype maxBytes)
 {
-    const QByteArray native = QFile::encodeName(path);
+    const QByteArray native = SysFs::native(path);
+    note(native.constData());
     const int fd = ::open(native.constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
     if (fd < 0)
         return false;
@@ -50,44 +222,35 @@ std::optional<QByteArray> readFile(const QString &path, qsizetype maxBytes)
     return data;
 }
 
-std::optional<QString> readText(const QString &path)
-{
-    const auto data = readFile(path, 64 * 1024);
-    if (!data)
-        return std::nullopt;
-    const qsizetype nl = data->indexOf('\n');
-    return QString::fromUtf8(nl < 0 ? *data : data->left(nl)).trimmed();
-}
-
-std::optional<qint64> readInteger(const QString &path)
-{
-    const auto text = readText(path);
-    if (!text)
-        return std::nullopt;
-    bool ok = false;
-    const qint64 v = text->toLongLong(&ok);
-    if (!ok)
-        return std::nullopt;
-    return v;
-}
-
-QStringList listDir(const QString &path)
-{
-    return QDir(path).entryList(QDir::AllEntries | QDir::System | QDir::NoDotAndDotDot | QDir::Hidden,
-                                QDir::Name);
-}
-
 QString linkTarget(const QString &path)
 {
-    const QFileInfo info(path);
-    if (!info.isSymLink())
+    const QByteArray p = native(path);
+    note(p.constData());
+    char target[4096];
+    const ssize_t n = ::readlink(p.constData(), target, sizeof target);
+    if (n <= 0 || size_t(n) >= sizeof target)
         return {};
-    return info.symLinkTarget();
+    return QString::fromLocal8Bit(target, n);
 }
 
 bool exists(const QString &path)
 {
-    return ::access(QFile::encodeName(path).constData(), F_OK) == 0;
+    const QByteArray p = native(path);
+    note(p.constData());
+    return ::access(p.constData(), F_OK) == 0;
+}
+
+bool linkOrFileExists(const QString &path)
+{
+    const QByteArray p = native(path);
+    note(p.constData());
+    struct stat st {};
+    return ::lstat(p.constData(), &st) == 0;
+}
+
+void setRecorder(Recorder recorder)
+{
+    g_recorder.store(recorder, std::memory_order_release);
 }
 
 std::optional<quint64> parseUnsigned(const char *begin, const char *end)
@@ -106,7 +269,7 @@ std::optional<quint64> parseUnsigned(const char *begin, const char *end)
 }
 
 KeptFile::KeptFile(const QString &path)
-    : m_native(QFile::encodeName(path))
+    : m_native(native(path))
     , m_keep(m_native.startsWith("/proc/") || m_native.startsWith("/sys/"))
 {
 }
@@ -146,6 +309,7 @@ bool KeptFile::read(QByteArray &buffer, qsizetype maxBytes)
     buffer.resize(0);
     if (m_native.isEmpty())
         return false;
+    note(m_native.constData());
     // A kept descriptor can go stale (the device behind a /sys file went
     // away); one fresh open is tried before giving up.
     for (int attempt = 0; attempt < 2; ++attempt) {

@@ -1,7 +1,9 @@
 #pragma once
-// Small, cheap readers for /proc and /sys files. Nothing here throws or
-// blocks for long: a missing or unreadable file gives nullopt (or an empty
-// list), and reads are capped in size.
+// Small, cheap readers for /proc and /sys files, and the one place the
+// readers touch those trees. Nothing here throws or blocks for long: a
+// missing or unreadable file gives nullopt (or an empty list), reads are
+// capped in size, and O_NONBLOCK keeps a FIFO planted in a snapshot from
+// stalling the tick.
 
 #include <QByteArray>
 #include <QString>
@@ -19,20 +21,37 @@ std::optional<QByteArray> readFile(const QString &path, qsizetype maxBytes = 1 <
 // the file cannot be read.
 bool readInto(const QString &path, QByteArray &buffer, qsizetype maxBytes = 1 << 20);
 
-// The first line, trimmed.
-std::optional<QString> readText(const QString &path);
+// The path in the file system's encoding, for the hot-path overloads.
+inline QByteArray native(const QString &path) { return path.toLocal8Bit(); }
 
-// The file's text parsed as a decimal integer (surrounding blanks allowed).
-std::optional<qint64> readInteger(const QString &path);
+// The file's text as one decimal integer (blanks and one newline allowed
+// around it; a sign is allowed).
+std::optional<qint64> readLong(const char *nativePath);
+inline std::optional<qint64> readLong(const QByteArray &nativePath) { return readLong(nativePath.constData()); }
+std::optional<qint64> readLong(const QString &path);
 
-// Entry names of a folder (no "." or ".."), sorted; empty when unreadable.
-QStringList listDir(const QString &path);
+// The first line without its newline (at most 512 bytes are read). `trim`
+// also strips surrounding blanks; keep them where they matter (SMC type
+// names such as "ui8 ").
+std::optional<QString> readLine(const QString &path, bool trim = true);
 
-// Target of a symbolic link, resolved against the link's folder (not
-// following further links); empty when `path` is not a link.
+// Writes `text` to an attribute; false when it cannot be written.
+bool writeText(const QString &path, const QByteArray &text);
+bool isWritable(const QString &path);
+
+// Entry names of a folder (no "." or ".."), in natural order, so hwmon2
+// comes before hwmon10; empty when the folder cannot be read.
+QStringList entries(const QString &dir);
+
+// Target of a symbolic link as written in the link; empty when `path` is
+// not a link.
 QString linkTarget(const QString &path);
 
+// Whether `path` exists, following links.
 bool exists(const QString &path);
+// Whether `path` itself exists, without following a final link (a device
+// link counts even when what it points at is not there).
+bool linkOrFileExists(const QString &path);
 
 // Parses a decimal unsigned integer from [begin, end); nullopt on garbage.
 std::optional<quint64> parseUnsigned(const char *begin, const char *end);
@@ -63,5 +82,18 @@ private:
     int m_fd = -1;
     bool m_keep = false;
 };
+
+// Natural "less than": runs of digits compare by value.
+bool naturalLess(const QString &a, const QString &b);
+
+// For names like "temp12_input": the number between `prefix` and `suffix`,
+// or -1 when the name has another shape.
+int indexedName(const QString &name, QLatin1StringView prefix, QLatin1StringView suffix);
+
+// Every path handed to the functions above (and to KeptFile) is passed to
+// the recorder while one is set. `sulkbox capture` uses it to save exactly
+// the files the readers read. Set it before reading starts, from one thread.
+using Recorder = void (*)(const char *nativePath);
+void setRecorder(Recorder recorder);
 
 } // namespace SysFs
