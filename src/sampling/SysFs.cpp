@@ -181,14 +181,10 @@ int indexedName(const QString &name, QLatin1StringView prefix, QLatin1StringView
 }
 
 
-bool readInto(const QString &path, QByteArray &buffer, qsizetype maxBytes)
+// Reads the whole of `fd` from offset 0 into `buffer`. pread from 0 makes
+// the kernel produce a /proc or /sys file afresh, also on a kept descriptor.
+bool readAllFrom(int fd, QByteArray &buffer, qsizetype maxBytes)
 {
-    const QByteArray native = SysFs::native(path);
-    note(native.constData());
-    const int fd = ::open(native.constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
-    if (fd < 0)
-        return false;
-    buffer.resize(0);
     qsizetype total = 0;
     bool ok = true;
     for (;;) {
@@ -198,7 +194,7 @@ bool readInto(const QString &path, QByteArray &buffer, qsizetype maxBytes)
         const qsizetype want = std::min<qsizetype>(buffer.size() - total, maxBytes - total);
         if (want <= 0)
             break;
-        const ssize_t got = ::read(fd, buffer.data() + total, size_t(want));
+        const ssize_t got = ::pread(fd, buffer.data() + total, size_t(want), off_t(total));
         if (got < 0) {
             if (errno == EINTR)
                 continue;
@@ -209,8 +205,20 @@ bool readInto(const QString &path, QByteArray &buffer, qsizetype maxBytes)
             break;
         total += got;
     }
-    ::close(fd);
     buffer.resize(ok ? total : 0);
+    return ok;
+}
+
+bool readInto(const QString &path, QByteArray &buffer, qsizetype maxBytes)
+{
+    const QByteArray native = SysFs::native(path);
+    note(native.constData());
+    buffer.resize(0);
+    const int fd = ::open(native.constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
+    if (fd < 0)
+        return false;
+    const bool ok = readAllFrom(fd, buffer, maxBytes);
+    ::close(fd);
     return ok;
 }
 
@@ -319,27 +327,7 @@ bool KeptFile::read(QByteArray &buffer, qsizetype maxBytes)
             if (m_fd < 0)
                 return false;
         }
-        qsizetype total = 0;
-        bool ok = true;
-        for (;;) {
-            if (buffer.capacity() < total + 4096)
-                buffer.reserve(std::max<qsizetype>(total * 2, total + 4096));
-            buffer.resize(buffer.capacity());
-            const qsizetype want = std::min<qsizetype>(buffer.size() - total, maxBytes - total);
-            if (want <= 0)
-                break;
-            const ssize_t got = ::pread(m_fd, buffer.data() + total, size_t(want), off_t(total));
-            if (got < 0) {
-                if (errno == EINTR)
-                    continue;
-                ok = false;
-                break;
-            }
-            if (got == 0)
-                break;
-            total += got;
-        }
-        buffer.resize(ok ? total : 0);
+        const bool ok = readAllFrom(m_fd, buffer, maxBytes);
         if (!m_keep || !ok)
             close();
         if (ok)

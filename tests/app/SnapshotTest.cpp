@@ -11,11 +11,7 @@
 
 namespace {
 
-SystemRoots fixtureRoots(const QString &name)
-{
-    const QString base = TestSupport::fixture(name);
-    return {base + u"/proc"_qs, base + u"/sys"_qs, false};
-}
+using TestSupport::fixtureRoots;
 
 // Captures `roots` and unpacks the archive; returns the unpacked folder.
 QString captureAndUnpack(const SystemRoots &roots, QTemporaryDir &dir)

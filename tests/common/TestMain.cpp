@@ -5,11 +5,13 @@
 
 #include "app/Settings.h"
 
+#include <QFile>
 #include <QGuiApplication>
 #include <QSettings>
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <filesystem>
 #include <memory>
 #include <vector>
 
@@ -44,6 +46,30 @@ void registerTest(const char *name, Factory factory)
 QString fixture(const QString &relative)
 {
     return QStringLiteral(SULK_FIXTURES "/") + relative;
+}
+
+SystemRoots fixtureRoots(const QString &name)
+{
+    return SystemRoots::underPrefix(fixture(name));
+}
+
+void writeFile(const QString &path, const QByteArray &data)
+{
+    std::error_code ec;
+    std::filesystem::create_directories(std::filesystem::path(path.toStdString()).parent_path(), ec);
+    QFile f(path);
+    QVERIFY2(f.open(QIODevice::WriteOnly | QIODevice::Truncate), qPrintable(path));
+    QCOMPARE(f.write(data), data.size());
+}
+
+void copyTree(const QString &from, const QString &to)
+{
+    namespace fs = std::filesystem;
+    std::error_code ec;
+    fs::create_directories(to.toStdString(), ec);
+    fs::copy(from.toStdString(), to.toStdString(),
+             fs::copy_options::recursive | fs::copy_options::copy_symlinks | fs::copy_options::overwrite_existing, ec);
+    QVERIFY2(!ec, ec.message().c_str());
 }
 
 QString settingsFolder()

@@ -2,6 +2,9 @@
 // Shared pieces of the test executables: the registry that lets one
 // executable per area hold many test classes, and fixture paths.
 
+#include "sampling/SystemRoots.h"
+
+#include <QByteArray>
 #include <QObject>
 #include <QString>
 
@@ -15,6 +18,17 @@ void registerTest(const char *name, Factory factory);
 
 // Absolute path of a file or folder under tests/fixtures.
 QString fixture(const QString &relative);
+
+// The readers' roots for a fixture machine (read as a snapshot: live-only
+// sources stay empty).
+SystemRoots fixtureRoots(const QString &name);
+
+// Writes `data` to `path`, making the folders on the way; fails the test
+// when it cannot.
+void writeFile(const QString &path, const QByteArray &data);
+
+// Copies a folder tree, links kept as links, over whatever is at `to`.
+void copyTree(const QString &from, const QString &to);
 
 // The temporary folder that holds this run's settings (never the user's).
 QString settingsFolder();

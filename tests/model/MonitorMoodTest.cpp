@@ -2,6 +2,7 @@
 // `reaction` and `roastEvent` announce a change, and the roast's expiry.
 
 #include "common/TestSupport.h"
+#include "model/FakeSamplers.h"
 
 #include "app/Settings.h"
 #include "model/SystemMonitor.h"
@@ -14,30 +15,7 @@
 
 namespace {
 
-// Readings the test sets by hand.
-class MoodSamplers : public Samplers {
-public:
-    CPUSample cpu;
-    MemorySample memory;
-    NetworkSample network;
-    DiskSample disk;
-    BatterySample battery;
-    SensorSample sensors;
-    QList<ProcInfo> processes;
-
-    QString cpuBrand() override { return QStringLiteral("Test CPU"); }
-    CPUSample readCPU() override { return cpu; }
-    MemorySample readMemory() override { return memory; }
-    NetworkSample readNetwork(bool) override { return network; }
-    DiskSample readDisk() override { return disk; }
-    void clearDiskBaseline() override {}
-    BatterySample readBattery() override { return battery; }
-    SensorSample readSensors() override { return sensors; }
-    GPUSample readGPU() override { return {}; }
-    QmPowerReading readPower() override { return {}; }
-    void resetPower() override {}
-    QList<ProcInfo> topProcesses(int limit) override { return processes.mid(0, limit); }
-};
+using MoodSamplers = FakeSamplers;
 
 VolumeInfo volume(const QString &path, double total, double free)
 {

@@ -11,10 +11,7 @@
 
 namespace {
 
-SystemRoots fixtureRoots(const QString &name)
-{
-    return SystemRoots::underPrefix(TestSupport::fixture(name));
-}
+using TestSupport::fixtureRoots;
 
 using Files = std::initializer_list<std::pair<const char *, const char *>>;
 

@@ -20,6 +20,8 @@
 
 namespace {
 
+using TestSupport::copyTree;
+
 constexpr double GB = 1e9;
 
 using Figures = DiskMonitor::FsFigures;
@@ -83,16 +85,6 @@ QStringList paths(const DiskSample &s)
 }
 
 // Copies a fixture tree, links kept as links.
-void copyTree(const QString &from, const QString &to)
-{
-    namespace fs = std::filesystem;
-    std::error_code ec;
-    fs::create_directories(to.toStdString(), ec);
-    fs::copy(from.toStdString(), to.toStdString(),
-             fs::copy_options::recursive | fs::copy_options::copy_symlinks | fs::copy_options::overwrite_existing, ec);
-    QVERIFY2(!ec, ec.message().c_str());
-}
-
 // A writable copy of a fixture tree whose diskstats tests swap between
 // readings.
 struct StepRoot {

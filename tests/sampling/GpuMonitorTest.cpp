@@ -9,18 +9,8 @@
 
 namespace {
 
-SystemRoots fixtureRoots(const QString &name)
-{
-    return SystemRoots::underPrefix(TestSupport::fixture(name));
-}
-
-void writeFile(const QString &path, const QByteArray &data)
-{
-    std::filesystem::create_directories(std::filesystem::path(path.toStdString()).parent_path());
-    QFile f(path);
-    QVERIFY(f.open(QIODevice::WriteOnly | QIODevice::Truncate));
-    f.write(data);
-}
+using TestSupport::fixtureRoots;
+using TestSupport::writeFile;
 
 nvml::Source nvidiaAt(double util)
 {

@@ -9,25 +9,14 @@
 
 namespace {
 
-SystemRoots fixtureRoots(const QString &name)
-{
-    return SystemRoots::underPrefix(TestSupport::fixture(name));
-}
+using TestSupport::fixtureRoots;
+using TestSupport::writeFile;
 
 // A writable copy of a fixture tree, for readings that change.
 QString copyOf(const QTemporaryDir &tmp, const QString &name)
 {
-    namespace fs = std::filesystem;
-    fs::copy(TestSupport::fixture(name).toStdString(), tmp.path().toStdString(),
-             fs::copy_options::recursive | fs::copy_options::copy_symlinks);
+    TestSupport::copyTree(TestSupport::fixture(name), tmp.path());
     return tmp.path();
-}
-
-void writeFile(const QString &path, const QByteArray &data)
-{
-    QFile f(path);
-    QVERIFY(f.open(QIODevice::WriteOnly | QIODevice::Truncate));
-    f.write(data);
 }
 
 QStringList names(const SensorSample &s)

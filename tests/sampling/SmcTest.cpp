@@ -9,22 +9,12 @@
 
 namespace {
 
+using TestSupport::fixtureRoots;
+using TestSupport::writeFile;
+
 QByteArray hex(const char *text)
 {
     return QByteArray::fromHex(text);
-}
-
-SystemRoots fixtureRoots(const QString &name)
-{
-    return SystemRoots::underPrefix(TestSupport::fixture(name));
-}
-
-void writeFile(const QString &path, const QByteArray &data)
-{
-    std::filesystem::create_directories(std::filesystem::path(path.toStdString()).parent_path());
-    QFile f(path);
-    QVERIFY(f.open(QIODevice::WriteOnly | QIODevice::Truncate));
-    f.write(data);
 }
 
 } // namespace
@@ -139,8 +129,7 @@ private slots:
     {
         // What a user without root sees on the live machine: no key table.
         QTemporaryDir tmp;
-        const std::filesystem::path from = TestSupport::fixture(QStringLiteral("intel-mac")).toStdString();
-        std::filesystem::copy(from, tmp.path().toStdString(), std::filesystem::copy_options::recursive | std::filesystem::copy_options::copy_symlinks);
+        TestSupport::copyTree(TestSupport::fixture(QStringLiteral("intel-mac")), tmp.path());
         std::filesystem::remove_all((tmp.path() + QStringLiteral("/sys/devices/platform/applesmc.768/keys")).toStdString());
 
         SMC smc(SystemRoots::underPrefix(tmp.path()));
