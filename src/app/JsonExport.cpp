@@ -4,7 +4,6 @@
 #include "model/SystemMonitor.h"
 #include "ui/MenuBarLabel.h"
 
-#include <QColor>
 #include <QJsonArray>
 #include <QMetaProperty>
 #include <QSequentialIterable>
@@ -48,7 +47,6 @@ QJsonValue value(const QVariant &v)
     case QMetaType::LongLong:
     case QMetaType::Double: return v.toDouble();
     case QMetaType::QString: return v.toString();
-    case QMetaType::QColor: return v.value<QColor>().name();
     default: break;
     }
     if (v.canConvert<QVariantList>() && type.id() != QMetaType::QString) {

@@ -29,18 +29,26 @@ std::optional<MoodKind> moodKindFromName(const QString &name)
     return MoodKind(value);
 }
 
-QColor tintColor(Tint tint)
+QString Rgb::name() const
+{
+    return QStringLiteral("#%1%2%3")
+        .arg(r & 0xff, 2, 16, QLatin1Char('0'))
+        .arg(g & 0xff, 2, 16, QLatin1Char('0'))
+        .arg(b & 0xff, 2, 16, QLatin1Char('0'));
+}
+
+Rgb tintColor(Tint tint)
 {
     switch (tint) {
-    case Tint::green: return QColor(40, 160, 72);
-    case Tint::red: return QColor(224, 64, 56);
-    case Tint::orange: return QColor(214, 120, 20);
-    case Tint::blue: return QColor(40, 124, 224);
-    case Tint::yellow: return QColor(184, 142, 0);
-    case Tint::pink: return QColor(222, 70, 140);
-    case Tint::purple: return QColor(150, 90, 220);
+    case Tint::green: return Rgb{40, 160, 72};
+    case Tint::red: return Rgb{224, 64, 56};
+    case Tint::orange: return Rgb{214, 120, 20};
+    case Tint::blue: return Rgb{40, 124, 224};
+    case Tint::yellow: return Rgb{184, 142, 0};
+    case Tint::pink: return Rgb{222, 70, 140};
+    case Tint::purple: return Rgb{150, 90, 220};
     }
-    return QColor(40, 160, 72);
+    return Rgb{40, 160, 72};
 }
 
 Mood::Mood()
@@ -49,13 +57,13 @@ Mood::Mood()
 }
 
 Mood::Mood(QString emoji, LocKey phraseKey, LocKey reasonKey, std::optional<QString> reasonArg, MoodKind kind,
-           QColor tint)
+           Rgb tint)
     : m_emoji(std::move(emoji))
     , m_phraseKey(phraseKey)
     , m_reasonKey(reasonKey)
     , m_reasonArg(std::move(reasonArg))
     , m_kind(kind)
-    , m_tint(std::move(tint))
+    , m_tint(tint)
 {
 }
 

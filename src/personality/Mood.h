@@ -5,7 +5,6 @@
 
 #include "l10n/LocKey.h"
 
-#include <QColor>
 #include <QList>
 #include <QObject>
 #include <QString>
@@ -52,7 +51,22 @@ std::optional<MoodKind> moodKindFromName(const QString &name);
 // The seven named accent colours. Mid-tones, so that the same value reads on
 // a light and on a dark panel.
 enum class Tint { green, red, orange, blue, yellow, pink, purple };
-QColor tintColor(Tint tint);
+
+// A colour as plain red, green and blue, so the model needs no GUI library;
+// QML takes its name ("#28a048") wherever a colour goes.
+struct Rgb {
+    int r = 0;
+    int g = 0;
+    int b = 0;
+
+    int red() const { return r; }
+    int green() const { return g; }
+    int blue() const { return b; }
+    QString name() const;
+    bool operator==(const Rgb &) const = default;
+};
+
+Rgb tintColor(Tint tint);
 
 class Mood {
     Q_GADGET
@@ -62,13 +76,13 @@ class Mood {
     Q_PROPERTY(bool hasReasonArg READ hasReasonArg CONSTANT)
     Q_PROPERTY(QString reasonArg READ reasonArgText CONSTANT)
     Q_PROPERTY(MoodKind kind READ kind CONSTANT)
-    Q_PROPERTY(QColor tint READ tint CONSTANT)
+    Q_PROPERTY(QString tint READ tintName CONSTANT)
 
 public:
     // The start-up value (needed by the meta-type system; equals `placeholder`).
     Mood();
     Mood(QString emoji, LocKey phraseKey, LocKey reasonKey, std::optional<QString> reasonArg, MoodKind kind,
-         QColor tint);
+         Rgb tint);
 
     // What the model holds before the engine has run: 🥱 "waking up".
     static const Mood &placeholder();
@@ -80,7 +94,8 @@ public:
     bool hasReasonArg() const { return m_reasonArg.has_value(); }
     QString reasonArgText() const { return m_reasonArg.value_or(QString()); }
     MoodKind kind() const { return m_kind; }
-    const QColor &tint() const { return m_tint; }
+    const Rgb &tint() const { return m_tint; }
+    QString tintName() const { return m_tint.name(); }
 
     // Two moods are the same mood when emoji, phrase, reason and reason
     // argument agree; kind and tint do not count.
@@ -93,7 +108,7 @@ private:
     LocKey m_reasonKey;
     std::optional<QString> m_reasonArg;
     MoodKind m_kind;
-    QColor m_tint;
+    Rgb m_tint;
 };
 
 // The catalogue. Figures are formatted here, once, when the mood is made:

@@ -20,12 +20,12 @@ double channel(int c)
     return v <= 0.04045 ? v / 12.92 : std::pow((v + 0.055) / 1.055, 2.4);
 }
 
-double luminance(const QColor &c)
+double luminance(const Rgb &c)
 {
     return 0.2126 * channel(c.red()) + 0.7152 * channel(c.green()) + 0.0722 * channel(c.blue());
 }
 
-double contrast(const QColor &a, const QColor &b)
+double contrast(const Rgb &a, const Rgb &b)
 {
     const double la = luminance(a);
     const double lb = luminance(b);
@@ -91,14 +91,14 @@ private slots:
 
     void tintsReadOnLightAndDarkPanels()
     {
-        const QColor light(255, 255, 255);
-        const QColor dark(30, 30, 30);
-        QSet<QRgb> seen;
+        const Rgb light{255, 255, 255};
+        const Rgb dark{30, 30, 30};
+        QSet<QString> seen;
         for (Tint t : {Tint::green, Tint::red, Tint::orange, Tint::blue, Tint::yellow, Tint::pink, Tint::purple}) {
-            const QColor c = tintColor(t);
+            const Rgb c = tintColor(t);
             QVERIFY2(contrast(c, light) >= 3.0, qPrintable(c.name()));
             QVERIFY2(contrast(c, dark) >= 3.0, qPrintable(c.name()));
-            seen.insert(c.rgb());
+            seen.insert(c.name());
         }
         QCOMPARE(seen.size(), 7);
     }
