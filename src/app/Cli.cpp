@@ -87,7 +87,7 @@ int runStatus(const SystemRoots &roots, bool json)
 
     // A one-shot has no start-up to greet, and no idle history either: the
     // engine starts just as the greeting would end.
-    const QDateTime now = QDateTime::currentDateTime();
+    const QDateTime now = QDateTime::currentDateTimeUtc();
     MoodEngine engine(now.addMSecs(-MoodEngine::greetingMs));
     MoodInputs inputs = monitor.moodInputs();
     inputs.cpu = monitor.cpu().total; // the one real interval we measured

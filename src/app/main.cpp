@@ -14,7 +14,10 @@ int main(int argc, char **argv)
     QCoreApplication::setOrganizationName(QStringLiteral("sulkbox"));
     QCoreApplication::setApplicationVersion(QStringLiteral(SULKBOX_VERSION));
 
-    // The command line needs no GUI: a plain core application keeps it small.
+    // The command line needs no GUI: a plain core application on Qt's own
+    // event dispatcher (no glib main loop) keeps each tick small.
+    if (qEnvironmentVariableIsEmpty("QT_NO_GLIB"))
+        qputenv("QT_NO_GLIB", "1");
     QCoreApplication app(argc, argv);
     if (!Cli::wantsCommandLine(arguments))
         arguments.append(QStringLiteral("--help"));

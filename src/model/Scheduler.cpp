@@ -8,7 +8,9 @@ namespace {
 
 class SystemScheduler final : public Scheduler {
 public:
-    QDateTime now() const override { return QDateTime::currentDateTime(); }
+    // UTC: the local time zone is only looked up where an hour of the day
+    // matters, which keeps the once-a-second path cheap.
+    QDateTime now() const override { return QDateTime::currentDateTimeUtc(); }
     void after(int ms, QObject *context, std::function<void()> action) override
     {
         QTimer::singleShot(ms, context, std::move(action));

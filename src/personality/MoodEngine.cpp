@@ -5,7 +5,7 @@
 MoodEngine::MoodEngine(const QDateTime &launch, Clock wallClock)
     : m_launchMs(launch.toMSecsSinceEpoch())
     , m_lastActiveMs(m_launchMs)
-    , m_wallClock(wallClock ? std::move(wallClock) : Clock([] { return QDateTime::currentDateTime(); }))
+    , m_wallClock(wallClock ? std::move(wallClock) : Clock([] { return QDateTime::currentDateTimeUtc(); }))
 {
 }
 
