@@ -14,9 +14,9 @@ QHash<int, QVariant> &overrides()
 
 } // namespace
 
-const QList<Spec> &all()
+const QList<Entry> &all()
 {
-    static const QList<Spec> table = {
+    static const QList<Entry> table = {
         {Key::refreshInterval, "refreshInterval", Type::Double, 1.0},
         {Key::appLanguage, "appLanguage", Type::Text, QStringLiteral("system")},
         {Key::useFahrenheit, "useFahrenheit", Type::Flag, false},
@@ -35,7 +35,7 @@ const QList<Spec> &all()
     return table;
 }
 
-const Spec &spec(Key key)
+const Entry &entry(Key key)
 {
     return all().at(static_cast<int>(key));
 }
@@ -52,7 +52,7 @@ QVariant raw(Key key)
     const auto o = overrides().constFind(static_cast<int>(key));
     if (o != overrides().constEnd())
         return *o;
-    const QString name = QString::fromLatin1(spec(key).name);
+    const QString name = QString::fromLatin1(entry(key).name);
     return store().contains(name) ? store().value(name) : QVariant();
 }
 
@@ -64,7 +64,7 @@ bool contains(Key key)
 bool flag(Key key)
 {
     const QVariant v = raw(key);
-    const bool fallback = spec(key).defaultValue.toBool();
+    const bool fallback = entry(key).defaultValue.toBool();
     if (!v.isValid())
         return fallback;
     if (v.typeId() == QMetaType::Bool)
@@ -82,33 +82,33 @@ double number(Key key)
 {
     const QVariant v = raw(key);
     if (!v.isValid())
-        return spec(key).defaultValue.toDouble();
+        return entry(key).defaultValue.toDouble();
     bool ok = false;
     const double d = v.toString().trimmed().toDouble(&ok);
     if (ok)
         return d;
     const double direct = v.toDouble(&ok);
-    return ok ? direct : spec(key).defaultValue.toDouble();
+    return ok ? direct : entry(key).defaultValue.toDouble();
 }
 
 QString text(Key key)
 {
     const QVariant v = raw(key);
     if (!v.isValid() || !v.canConvert<QString>())
-        return spec(key).defaultValue.toString();
+        return entry(key).defaultValue.toString();
     return v.toString();
 }
 
 void set(Key key, const QVariant &value)
 {
     overrides().remove(static_cast<int>(key));
-    store().setValue(QString::fromLatin1(spec(key).name), value);
+    store().setValue(QString::fromLatin1(entry(key).name), value);
 }
 
 void remove(Key key)
 {
     overrides().remove(static_cast<int>(key));
-    store().remove(QString::fromLatin1(spec(key).name));
+    store().remove(QString::fromLatin1(entry(key).name));
 }
 
 void overrideForThisRun(Key key, const QVariant &value)

@@ -31,7 +31,7 @@ enum class Key {
     migratedFromLegacyBundleID,
 };
 
-struct Spec {
+struct Entry {
     Key key;
     const char *name;
     Type type;
@@ -39,8 +39,8 @@ struct Spec {
 };
 
 // Every setting, in table order.
-const QList<Spec> &all();
-const Spec &spec(Key key);
+const QList<Entry> &all();
+const Entry &entry(Key key);
 
 // The shared store. Values written through any QSettings of this process are
 // seen here at once.
