@@ -1,7 +1,7 @@
 #include "app/Cli.h"
 
 #include "app/JsonExport.h"
-#include "app/Settings.h"
+#include "settings/Settings.h"
 #include "app/Snapshot.h"
 #include "app/StatusText.h"
 #include "l10n/Fmt.h"

@@ -1,6 +1,6 @@
 #include "l10n/Fmt.h"
 
-#include "app/Settings.h"
+#include "settings/Settings.h"
 
 #include <array>
 #include <charconv>

@@ -1,6 +1,7 @@
 #include "l10n/Localizer.h"
 
-#include "app/Settings.h"
+#include "settings/AppSettings.h"
+#include "settings/Settings.h"
 
 #include <QHash>
 #include <QLocale>
@@ -69,6 +70,8 @@ const QHash<AppLanguage, std::shared_ptr<QTranslator>> &translators()
 Localizer::Localizer()
 {
     reload();
+    // The language follows the setting wherever it is changed.
+    connect(&AppSettings::shared(), &AppSettings::appLanguageChanged, this, &Localizer::reload);
 }
 
 Localizer &Localizer::shared()

@@ -1,6 +1,6 @@
 #include "model/SystemMonitor.h"
 
-#include "app/Settings.h"
+#include "settings/Settings.h"
 
 #include <QCoreApplication>
 #include <QPointer>

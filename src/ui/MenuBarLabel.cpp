@@ -1,6 +1,6 @@
 #include "ui/MenuBarLabel.h"
 
-#include "app/Settings.h"
+#include "settings/Settings.h"
 #include "l10n/Fmt.h"
 #include "l10n/Localizer.h"
 #include "model/SystemMonitor.h"

@@ -1,12 +1,16 @@
 #include "common/TestSupport.h"
 
-#include "app/Settings.h"
+#include "settings/AppSettings.h"
+#include "settings/Settings.h"
 #include "l10n/Localizer.h"
 #include "model/SystemMonitor.h"
 
 #include <QFile>
 #include <QSettings>
+#include <QSignalSpy>
 #include <QTest>
+
+#include <cstdio>
 
 class SettingsTest : public QObject {
     Q_OBJECT
@@ -85,6 +89,61 @@ private slots:
         QFile again(path);
         QVERIFY(again.open(QIODevice::ReadOnly));
         QCOMPARE(again.readAll(), damaged);
+    }
+
+    void changesAreAnnouncedOnce()
+    {
+        AppSettings &app = AppSettings::shared();
+        QSignalSpy savage(&app, &AppSettings::savageModeChanged);
+        QSignalSpy mood(&app, &AppSettings::moodEnabledChanged);
+        QSignalSpy any(&app, &AppSettings::changed);
+        app.setSavageMode(true);
+        app.setSavageMode(true);
+        QCOMPARE(savage.count(), 1);
+        QVERIFY(app.savageMode());
+        // A value that reads as the default changes nothing anyone can see.
+        Settings::set(Settings::Key::moodEnabled, u"purple"_qs);
+        QCOMPARE(mood.count(), 0);
+        Settings::overrideForThisRun(Settings::Key::moodEnabled, false);
+        QCOMPARE(mood.count(), 1);
+        Settings::clearOverrides();
+        QCOMPARE(mood.count(), 2);
+        QCOMPARE(any.count(), 3);
+    }
+
+    void followsTheFileWrittenElsewhere()
+    {
+        AppSettings &app = AppSettings::shared();
+        app.watchFile();
+        QVERIFY(app.watching());
+        QSignalSpy mood(&app, &AppSettings::moodEnabledChanged);
+        QSignalSpy pet(&app, &AppSettings::petNameChanged);
+        {
+            // Another sulkbox process, or a hand edit.
+            QSettings other(Settings::filePath(), QSettings::IniFormat);
+            other.setValue(u"moodEnabled"_qs, false);
+            other.setValue(u"petName"_qs, u"Rex"_qs);
+        }
+        QTRY_COMPARE_WITH_TIMEOUT(mood.count(), 1, 5000);
+        QCOMPARE(pet.count(), 1);
+        QVERIFY(!app.moodEnabled());
+        QCOMPARE(app.petName(), u"Rex"_qs);
+
+        // The same file rewritten with the same values announces nothing.
+        {
+            QSettings other(Settings::filePath(), QSettings::IniFormat);
+            other.setValue(u"moodEnabled"_qs, u"false"_qs);
+        }
+        QTest::qWait(300);
+        QCOMPARE(mood.count(), 1);
+
+        // Replaced whole, as editors save: still followed.
+        const QString tmp = Settings::filePath() + u".new"_qs;
+        TestSupport::writeFile(tmp, "[General]\nmoodEnabled=true\npetName=Max\n");
+        QVERIFY(::rename(QFile::encodeName(tmp).constData(), QFile::encodeName(Settings::filePath()).constData()) == 0);
+        QTRY_COMPARE_WITH_TIMEOUT(pet.count(), 2, 5000);
+        QCOMPARE(app.petName(), u"Max"_qs);
+        QVERIFY(app.moodEnabled());
     }
 
     void overridesNeverReachTheFile()

@@ -1,6 +1,6 @@
 #include "common/TestSupport.h"
 
-#include "app/Settings.h"
+#include "settings/Settings.h"
 
 #include <QDir>
 #include <QFile>
@@ -12,6 +12,8 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <sys/stat.h>
+
 namespace {
 
 struct Run {
@@ -21,9 +23,11 @@ struct Run {
     QByteArray err;
 };
 
-Run sulkbox(const QStringList &args, int timeoutMs = 20000)
+Run sulkbox(const QStringList &args, int timeoutMs = 20000,
+           const QProcessEnvironment &env = QProcessEnvironment::systemEnvironment())
 {
     QProcess p;
+    p.setProcessEnvironment(env);
     p.start(QStringLiteral(SULKBOX_EXE), args);
     Run r;
     if (!p.waitForFinished(timeoutMs)) {
@@ -108,6 +112,33 @@ private slots:
 
         const Run english = sulkbox({u"status"_qs, u"--lang"_qs, u"en"_qs});
         QVERIFY(QString::fromUtf8(english.out).contains(u"Memory"_qs));
+    }
+
+    void specialFilesAtTheSettingsPathAreLeftAlone()
+    {
+        // A FIFO would block QSettings' open() forever; a folder would be
+        // replaced on the first write. Both give defaults for the run.
+        for (const bool fifo : {true, false}) {
+            QTemporaryDir home;
+            QVERIFY(QDir().mkpath(home.filePath(u"sulkbox"_qs)));
+            const QString path = home.filePath(u"sulkbox/sulkbox.conf"_qs);
+            if (fifo)
+                QCOMPARE(::mkfifo(QFile::encodeName(path).constData(), 0600), 0);
+            else
+                QVERIFY(QDir().mkpath(path));
+            QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
+            env.insert(u"XDG_CONFIG_HOME"_qs, home.path());
+            const Run r = sulkbox({u"status"_qs, u"--json"_qs}, 20000, env);
+            QCOMPARE(r.status, QProcess::NormalExit);
+            QCOMPARE(r.exitCode, 0);
+            QVERIFY(QJsonDocument::fromJson(r.out).isObject());
+            const QList<QByteArray> warnings = r.err.trimmed().split('\n');
+            QCOMPARE(warnings.size(), 1);
+            QVERIFY2(warnings.first().contains("sulkbox.conf is not a regular file"), r.err.constData());
+            struct stat st {};
+            QCOMPARE(::lstat(QFile::encodeName(path).constData(), &st), 0);
+            QVERIFY(fifo ? S_ISFIFO(st.st_mode) : S_ISDIR(st.st_mode));
+        }
     }
 
     void fahrenheitIsForThisRunOnly()

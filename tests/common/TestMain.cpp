@@ -3,7 +3,7 @@
 
 #include "common/TestSupport.h"
 
-#include "app/Settings.h"
+#include "settings/Settings.h"
 
 #include <QFile>
 #include <QGuiApplication>
@@ -81,7 +81,7 @@ void clearSettings()
 {
     Settings::clearOverrides();
     Settings::store().clear();
-    Settings::store().sync();
+    Settings::reloadFromDisk();
 }
 
 } // namespace TestSupport

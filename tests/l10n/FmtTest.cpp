@@ -1,6 +1,6 @@
 #include "common/TestSupport.h"
 
-#include "app/Settings.h"
+#include "settings/Settings.h"
 #include "l10n/Fmt.h"
 
 #include <QLocale>

@@ -4,7 +4,7 @@
 #include "common/TestSupport.h"
 #include "model/FakeSamplers.h"
 
-#include "app/Settings.h"
+#include "settings/Settings.h"
 #include "model/SystemMonitor.h"
 #include "personality/MoodPrint.h"
 

@@ -1,7 +1,7 @@
 #include "common/TestSupport.h"
 #include "model/FakeSamplers.h"
 
-#include "app/Settings.h"
+#include "settings/Settings.h"
 #include "model/SystemMonitor.h"
 
 #include <QSignalSpy>

@@ -3,7 +3,7 @@
 
 #include "common/TestSupport.h"
 
-#include "app/Settings.h"
+#include "settings/Settings.h"
 #include "personality/MoodEngine.h"
 #include "personality/MoodPrint.h"
 

@@ -2,7 +2,7 @@
 
 #include "common/TestSupport.h"
 
-#include "app/Settings.h"
+#include "settings/Settings.h"
 #include "personality/Roasts.h"
 
 #include <QSet>
