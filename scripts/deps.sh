@@ -11,6 +11,7 @@ packages=(
     libicu-dev libgl-dev
     qml6-module-qtquick qml6-module-qtquick-controls qml6-module-qtquick-layouts
     qml6-module-qtquick-window qml6-module-qtquick-templates qml6-module-qtqml-workerscript
+    fonts-noto-color-emoji fonts-noto-cjk fonts-noto-core
 )
 if [[ "${1:-}" == "--test" ]]; then
     packages+=(locales xvfb xauth procps)

@@ -5,7 +5,10 @@
 #include "model/SystemMonitor.h"
 #include "ui/MenuBarLabel.h"
 
+#include <unicode/uchar.h>
+
 #include <algorithm>
+#include <optional>
 
 namespace StatusText {
 
@@ -18,12 +21,32 @@ QString rate(double bytesPerSecond)
     return Fmt::bytes(bytesPerSecond, 1) + QStringLiteral("/s");
 }
 
-QString row(const QString &label, const QStringList &parts)
+// A module's line before its label is padded.
+struct Row {
+    QString label;
+    QStringList parts;
+};
+
+Row row(const QString &label, const QStringList &parts)
 {
-    return label.leftJustified(10) + u' ' + parts.join(sep);
+    return {label, parts};
 }
 
-QString cpuLine(const SystemMonitor &m, const Localizer &loc)
+// The labels make one column as wide as the widest of them (never narrower
+// than 10 cells), measured in terminal cells, so that the figures line up in
+// every script.
+QStringList padded(const QList<Row> &rows)
+{
+    int column = 10;
+    for (const Row &r : rows)
+        column = std::max(column, displayWidth(r.label));
+    QStringList lines;
+    for (const Row &r : rows)
+        lines.append(r.label + QString(column - displayWidth(r.label), u' ') + u' ' + r.parts.join(sep));
+    return lines;
+}
+
+Row cpuLine(const SystemMonitor &m, const Localizer &loc)
 {
     const CPUSample &c = m.cpu();
     QStringList parts{Fmt::percent(c.total, 0),
@@ -35,7 +58,7 @@ QString cpuLine(const SystemMonitor &m, const Localizer &loc)
     return row(QStringLiteral("CPU"), parts);
 }
 
-QString memoryLine(const SystemMonitor &m, const Localizer &loc)
+Row memoryLine(const SystemMonitor &m, const Localizer &loc)
 {
     const MemorySample &mem = m.memory();
     QStringList parts{Fmt::percent(mem.pressure, 0),
@@ -46,7 +69,7 @@ QString memoryLine(const SystemMonitor &m, const Localizer &loc)
     return row(loc.t(LocKey::memory), parts);
 }
 
-QString networkLine(const SystemMonitor &m, const Localizer &loc)
+Row networkLine(const SystemMonitor &m, const Localizer &loc)
 {
     const NetworkSample &n = m.network();
     QStringList parts{loc.t(LocKey::download) + u' ' + rate(n.downRate),
@@ -56,7 +79,7 @@ QString networkLine(const SystemMonitor &m, const Localizer &loc)
     return row(loc.t(LocKey::network), parts);
 }
 
-QString diskLine(const SystemMonitor &m, const Localizer &loc)
+Row diskLine(const SystemMonitor &m, const Localizer &loc)
 {
     const DiskSample &d = m.disk();
     QStringList parts;
@@ -71,7 +94,7 @@ QString diskLine(const SystemMonitor &m, const Localizer &loc)
     return row(loc.t(LocKey::disk), parts);
 }
 
-QString sensorsLine(const SystemMonitor &m, const Localizer &loc)
+Row sensorsLine(const SystemMonitor &m, const Localizer &loc)
 {
     const SensorSample &s = m.sensors();
     QStringList parts;
@@ -91,7 +114,7 @@ QString sensorsLine(const SystemMonitor &m, const Localizer &loc)
     return row(loc.t(LocKey::sensors), parts);
 }
 
-QString batteryLine(const SystemMonitor &m, const Localizer &loc)
+Row batteryLine(const SystemMonitor &m, const Localizer &loc)
 {
     const BatterySample &b = m.battery();
     QStringList parts{Fmt::percent(b.charge, 0)};
@@ -110,7 +133,7 @@ QString batteryLine(const SystemMonitor &m, const Localizer &loc)
     return row(loc.t(LocKey::compBattery), parts);
 }
 
-QString gpuPowerLine(const SystemMonitor &m, const Localizer &loc)
+std::optional<Row> gpuPowerLine(const SystemMonitor &m, const Localizer &loc)
 {
     QStringList parts;
     if (m.gpu().hasUsage)
@@ -120,10 +143,12 @@ QString gpuPowerLine(const SystemMonitor &m, const Localizer &loc)
         parts.append(loc.t(LocKey::gpuUsage) + u' ' + Fmt::watts(m.power().gpu));
         parts.append(loc.t(LocKey::totalLabel) + u' ' + Fmt::watts(m.power().total));
     }
-    return parts.isEmpty() ? QString() : row(loc.t(LocKey::power), parts);
+    if (parts.isEmpty())
+        return std::nullopt;
+    return row(loc.t(LocKey::power), parts);
 }
 
-QString processLine(const SystemMonitor &m, const Localizer &loc)
+Row processLine(const SystemMonitor &m, const Localizer &loc)
 {
     QStringList parts;
     for (const ProcInfo &p : m.processes())
@@ -135,6 +160,26 @@ QString processLine(const SystemMonitor &m, const Localizer &loc)
 
 } // namespace
 
+int displayWidth(const QString &text)
+{
+    int width = 0;
+    for (const char32_t c : text.toUcs4()) {
+        const int8_t type = u_charType(UChar32(c));
+        // Marks that sit on the letter before them (Thai vowels above and
+        // below, tone marks, accents), invisible format characters (joiners,
+        // direction marks) and the vowels and final consonants of decomposed
+        // Hangul take no cell of their own.
+        if (type == U_NON_SPACING_MARK || type == U_ENCLOSING_MARK || type == U_FORMAT_CHAR
+            || (c >= 0x1160 && c <= 0x11FF) || (c >= 0xD7B0 && c <= 0xD7FF) || c == 0x200B)
+            continue;
+        if (type == U_CONTROL_CHAR)
+            continue;
+        const int eaw = u_getIntPropertyValue(UChar32(c), UCHAR_EAST_ASIAN_WIDTH);
+        width += (eaw == U_EA_WIDE || eaw == U_EA_FULLWIDTH) ? 2 : 1;
+    }
+    return width;
+}
+
 QString moodLine(const Mood &mood, const Localizer &loc)
 {
     return mood.emoji() + u' ' + MenuBarLabel::phrase(mood, loc) + sep + MenuBarLabel::reason(mood, loc);
@@ -142,14 +187,14 @@ QString moodLine(const Mood &mood, const Localizer &loc)
 
 QStringList moduleLines(const SystemMonitor &m, const Localizer &loc)
 {
-    QStringList lines{cpuLine(m, loc), memoryLine(m, loc), networkLine(m, loc), diskLine(m, loc),
-                      sensorsLine(m, loc)};
+    QList<Row> rows{cpuLine(m, loc), memoryLine(m, loc), networkLine(m, loc), diskLine(m, loc),
+                    sensorsLine(m, loc)};
     if (m.battery().present)
-        lines.append(batteryLine(m, loc));
-    if (const QString gp = gpuPowerLine(m, loc); !gp.isEmpty())
-        lines.append(gp);
-    lines.append(processLine(m, loc));
-    return lines;
+        rows.append(batteryLine(m, loc));
+    if (const auto gp = gpuPowerLine(m, loc))
+        rows.append(*gp);
+    rows.append(processLine(m, loc));
+    return padded(rows);
 }
 
 QString headline(const SystemMonitor &m, const Localizer &loc)

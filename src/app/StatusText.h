@@ -16,6 +16,11 @@ QString moodLine(const Mood &mood, const Localizer &loc);
 // One line per module with the figures the panel shows.
 QStringList moduleLines(const SystemMonitor &monitor, const Localizer &loc);
 
+// How many terminal cells `text` takes: wide and full-width characters (CJK,
+// Hangul, most emoji) two, combining marks (Thai vowels above and below, tone
+// marks) and invisible format characters none, everything else one.
+int displayWidth(const QString &text);
+
 // The few figures a bar tooltip carries: CPU, memory, network.
 QString headline(const SystemMonitor &monitor, const Localizer &loc);
 

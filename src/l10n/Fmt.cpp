@@ -2,9 +2,11 @@
 
 #include "settings/Settings.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <cmath>
+#include <string>
 
 namespace Fmt {
 
@@ -12,13 +14,15 @@ QString fixed(double v, int decimals)
 {
     if (!std::isfinite(v))
         v = 0;
-    decimals = std::clamp(decimals, 0, 17);
-    // to_chars is locale-independent and rounds exactly like printf.
-    std::array<char, 400> buf{};
+    decimals = std::max(decimals, 0);
+    // to_chars is locale-independent and rounds exactly like printf. Room for
+    // the sign, the 309 integer digits of the largest double, the point and
+    // every decimal asked for.
+    std::string buf(size_t(decimals) + 320, '\0');
     const auto res = std::to_chars(buf.data(), buf.data() + buf.size(), v, std::chars_format::fixed, decimals);
     if (res.ec != std::errc())
         return QStringLiteral("0");
-    return QString::fromLatin1(buf.data(), int(res.ptr - buf.data()));
+    return QString::fromLatin1(buf.data(), qsizetype(res.ptr - buf.data()));
 }
 
 QString bytes(double v, int decimals)

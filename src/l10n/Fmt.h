@@ -17,7 +17,8 @@ QString temp(double celsius);
 // "45m", "1h 5m"; "—" below one minute.
 QString minutes(int m);
 
-// `v` with exactly `decimals` decimals, rounded as printf rounds.
+// `v` with exactly `decimals` decimals (any count from 0 up, as printf
+// takes it), rounded as printf rounds.
 QString fixed(double v, int decimals);
 
 } // namespace Fmt

@@ -40,15 +40,15 @@ constexpr const char16_t *englishTexts[locKeyCount] = {
     u"Health", // health
     u"Cycles", // cycles
     u"%@ rpm", // rpmFmt
-    u"No readable sensors on this Mac.", // noSensors
+    u"No readable sensors on this computer.", // noSensors
     u"Charging", // charging
     u"Charging · %@", // chargingToFull
     u"Plugged in", // pluggedIn
     u"%@ left", // timeLeft
     u"On battery", // onBattery
-    u"Activity Monitor", // activityMonitor
+    u"System Monitor", // activityMonitor
     u"Quit", // quit
-    u"Your Mac", // yourMac
+    u"Your computer", // yourMac
     u"General", // general
     u"Launch at login", // launchAtLogin
     u"Refresh every", // refreshEvery
@@ -59,18 +59,18 @@ constexpr const char16_t *englishTexts[locKeyCount] = {
     u"Celsius (°C)", // celsius
     u"Fahrenheit (°F)", // fahrenheit
     u"Personality", // personality
-    u"Show mood in menu bar", // showMood
+    u"Show mood in the top bar", // showMood
     u"Pet name (optional)", // petName
     u"e.g. Pixel", // petPlaceholder
     u"Shown above the mood in the panel.", // petHint
     u"Savage Mode", // savageMode
-    u"Tap a module and it roasts you. Not for the sensitive.", // savageModeHint
+    u"Click a module and it roasts you. Not for the sensitive.", // savageModeHint
     u"Modules in panel", // modulesInPanel
     u"Language", // language
     u"Auto (System)", // autoLanguage
     u"About", // about
     u"Version %@", // versionFmt
-    u"Your Mac, with feelings.", // tagline
+    u"Your computer, with feelings.", // tagline
     u"Check for Updates…", // checkForUpdates
     u"Check for updates automatically", // autoUpdate
     u"Processes", // processes
@@ -118,7 +118,7 @@ constexpr const char16_t *englishTexts[locKeyCount] = {
     u"from %@ up", // reasonFromUp
     u"from %@ warmth", // reasonFromWarmth
     u"barely any load", // reasonBarelyLoad
-    u"startup disk %@ full", // reasonStartupDiskFull
+    u"system disk %@ full", // reasonStartupDiskFull
     u"idle · late night", // reasonIdleNight
     u"idle for a while", // reasonIdleWhile
     u"light load", // reasonLightLoad

@@ -1,5 +1,6 @@
 #include "common/TestSupport.h"
 
+#include "app/StatusText.h"
 #include "settings/Settings.h"
 
 #include <QDir>
@@ -139,6 +140,64 @@ private slots:
             QCOMPARE(::lstat(QFile::encodeName(path).constData(), &st), 0);
             QVERIFY(fifo ? S_ISFIFO(st.st_mode) : S_ISDIR(st.st_mode));
         }
+    }
+
+    void displayWidthCountsTerminalCells_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<int>("cells");
+        QTest::newRow("ascii") << u"CPU 42%"_qs << 7;
+        QTest::newRow("kana") << u"メモリ"_qs << 6;
+        QTest::newRow("han and full-width") << u"核心（8）"_qs << 9;
+        QTest::newRow("hangul") << u"메모리 사용"_qs << 11;
+        QTest::newRow("hangul jamo") << u"\u1112\u1161\u11AB"_qs << 2;
+        // Thai: the tone mark and the vowels above and below take no cell;
+        // sara am (ำ) does.
+        QTest::newRow("thai marks") << u"ที่"_qs << 1;
+        QTest::newRow("thai sara am") << u"น้ำ"_qs << 2;
+        QTest::newRow("thai word") << u"หน่วยความจำ"_qs << 10;
+        QTest::newRow("emoji") << u"😎 ok"_qs << 5;
+        QTest::newRow("accent") << u"e\u0301"_qs << 1;
+        QTest::newRow("joiner") << u"a\u200Db"_qs << 2;
+    }
+
+    void displayWidthCountsTerminalCells()
+    {
+        QFETCH(QString, text);
+        QFETCH(int, cells);
+        QCOMPARE(StatusText::displayWidth(text), cells);
+    }
+
+    void statusColumnsLineUpInEveryScript_data()
+    {
+        QTest::addColumn<QString>("lang");
+        for (const char *lang : {"en", "zhHans", "zhHant", "ja", "ko", "th"})
+            QTest::newRow(lang) << QString::fromLatin1(lang);
+    }
+
+    void statusColumnsLineUpInEveryScript()
+    {
+        QFETCH(QString, lang);
+        Settings::set(Settings::Key::refreshInterval, 0.5);
+        Settings::store().sync();
+        // The laptop has a battery, so its line joins the others.
+        const Run r = sulkbox({u"status"_qs, u"--lang"_qs, lang, u"--root"_qs, TestSupport::fixture(u"laptop"_qs)});
+        QCOMPARE(r.exitCode, 0);
+        const QStringList lines = QString::fromUtf8(r.out).split(u'\n', Qt::SkipEmptyParts);
+        QVERIFY2(lines.size() >= 7, r.out.constData());
+        // After the mood line: a label, spaces, then the figures, which start
+        // in the same terminal column on every line.
+        static const QRegularExpression labelled(u"^(\\S+)( +)\\S"_qs);
+        int column = -1;
+        for (const QString &line : lines.mid(1)) {
+            const QRegularExpressionMatch m = labelled.match(line);
+            QVERIFY2(m.hasMatch(), qPrintable(line));
+            const int start = StatusText::displayWidth(m.captured(1)) + int(m.captured(2).size());
+            if (column < 0)
+                column = start;
+            QVERIFY2(start == column, qPrintable(QString::fromUtf8(r.out)));
+        }
+        QVERIFY(column >= 11);
     }
 
     void fahrenheitIsForThisRunOnly()

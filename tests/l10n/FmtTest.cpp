@@ -61,6 +61,25 @@ private slots:
         QCOMPARE(Fmt::fixed(1.005, 2), u"1.00"_qs); // 1.005 is just below in binary
     }
 
+    void anyDecimalCountAsPrintfTakesIt()
+    {
+        // Past the 17 significant digits a double round-trips with, the
+        // exact binary value shows, as printf shows it.
+        QCOMPARE(Fmt::fixed(0.1, 30), u"0.100000000000000005551115123126"_qs);
+        QCOMPARE(Fmt::percent(0.4237, 25), u"42.3700000000000045474735089%"_qs);
+        QCOMPARE(Fmt::bytes(512, 18), u"512.000000000000000000 B"_qs);
+        // The smallest double needs 1074 decimals to its last digit; beyond
+        // that only zeros follow.
+        const QString tiny = Fmt::fixed(5e-324, 1074);
+        QCOMPARE(tiny.size(), 1076);
+        QVERIFY(tiny.startsWith(u"0.000"_qs));
+        QVERIFY(tiny.endsWith(u"3447265625"_qs));
+        QCOMPARE(Fmt::fixed(1.5, 2000), u"1.5"_qs + QString(1999, u'0'));
+        QCOMPARE(Fmt::fixed(-1e308, 3).size(), 1 + 309 + 1 + 3);
+        // A negative count is no count.
+        QCOMPARE(Fmt::fixed(2.75, -4), u"3"_qs);
+    }
+
     void absurdValuesStayReadable()
     {
         QCOMPARE(Fmt::bytes(qQNaN(), 1), u"0.0 B"_qs);

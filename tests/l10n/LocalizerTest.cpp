@@ -18,6 +18,16 @@ int placeholders(const QString &text)
 const QList<AppLanguage> translated = {AppLanguage::zhHans, AppLanguage::zhHant, AppLanguage::ja,
                                        AppLanguage::ko, AppLanguage::th};
 
+// Words of the other platform that Linux wording replaces, in any of the six
+// languages: the Mac, its menu bar, startup disk and Activity Monitor.
+const QRegularExpression &macWords()
+{
+    static const QRegularExpression re(
+        u"\\bMac\\b|macOS|menu bar|startup disk|Activity Monitor|菜单栏|選單列|メニューバー|메뉴 막대|แถบเมนู"
+        u"|启动盘|開機磁碟|起動ディスク|시동 디스크|ดิสก์เริ่มระบบ|活动监视器|活動監視器|アクティビティモニタ|활성 상태 보기"_qs);
+    return re;
+}
+
 const QSet<LocKey> keysWithoutRow = {LocKey::gpuUsage, LocKey::compSSD, LocKey::compWiFi, LocKey::empty};
 
 struct LanguageGuard {
@@ -39,8 +49,10 @@ private slots:
         QCOMPARE(int(LocKey::holCheer), 126);
         QCOMPARE(int(LocKey::empty), 127);
         QSet<QString> texts;
-        for (LocKey key : allLocKeys())
+        for (LocKey key : allLocKeys()) {
             texts.insert(rawValue(key));
+            QVERIFY2(!rawValue(key).contains(macWords()), qPrintable(keyName(key)));
+        }
         QCOMPARE(texts.size(), locKeyCount);
         QCOMPARE(rawValue(LocKey::empty), QString());
         QCOMPARE(rawValue(LocKey::holValentines), QStringLiteral("happy valentine\u2019s"));
@@ -81,6 +93,13 @@ private slots:
                 QVERIFY2(!text->contains(u'\n'), qPrintable(where + QStringLiteral(" not one line")));
                 QVERIFY2(placeholders(*text) == placeholders(rawValue(key)),
                          qPrintable(where + QStringLiteral(" placeholder count")));
+                // This runs on Linux desktops: no text may name the Mac or its parts.
+                QVERIFY2(!text->contains(macWords()), qPrintable(where + u": "_qs + *text));
+                // Chinese prose writes its ellipsis as a pair; a command that opens
+                // more ("Check for Updates…") keeps the single one of menus.
+                if ((lang == AppLanguage::zhHans || lang == AppLanguage::zhHant) && key != LocKey::checkForUpdates)
+                    QVERIFY2(!text->contains(QRegularExpression(u"(?<!\u2026)\u2026(?!\u2026)"_qs)),
+                             qPrintable(where + u": "_qs + *text));
             }
             QVERIFY(!Localizer::tableText(key, AppLanguage::en));
             QVERIFY(!Localizer::tableText(key, AppLanguage::system));
@@ -93,9 +112,12 @@ private slots:
         QTest::addColumn<LocKey>("key");
         QTest::addColumn<QStringList>("texts"); // zhHans, zhHant, ja, ko, th
         QTest::newRow("tagline") << LocKey::tagline
-                                 << QStringList{u"让你的 Mac 有点小情绪。"_qs, u"讓你的 Mac 有點小情緒。"_qs,
-                                                u"感情を持った Mac。"_qs, u"감정이 있는 당신의 Mac."_qs,
-                                                u"Mac ของคุณ ที่มีความรู้สึก"_qs};
+                                 << QStringList{u"让你的电脑有点小情绪。"_qs, u"讓你的電腦有點小情緒。"_qs,
+                                                u"感情を持ったパソコン。"_qs, u"감정이 있는 내 컴퓨터."_qs,
+                                                u"คอมของคุณ ที่มีความรู้สึก"_qs};
+        QTest::newRow("activityMonitor") << LocKey::activityMonitor
+                                         << QStringList{u"系统监视器"_qs, u"系統監視器"_qs, u"システムモニター"_qs,
+                                                        u"시스템 모니터"_qs, u"ตัวตรวจสอบระบบ"_qs};
         QTest::newRow("freedFmt") << LocKey::freedFmt
                                   << QStringList{u"释放了 %@"_qs, u"釋放了 %@"_qs, u"%@ 解放"_qs, u"%@ 정리됨"_qs,
                                                  u"เคลียร์ไป %@"_qs};
@@ -149,7 +171,7 @@ private slots:
             LanguageGuard guard(AppLanguage::en);
             QCOMPARE(Localizer::shared().t(LocKey::ofFmt, {u"12 GB"_qs, u"16 GB"_qs}), u"12 GB of 16 GB"_qs);
             QCOMPARE(Localizer::shared().t(LocKey::freedFmt, {u"1.2 GB"_qs}), u"freed 1.2 GB"_qs);
-            QCOMPARE(Localizer::shared().t(LocKey::tagline), u"Your Mac, with feelings."_qs);
+            QCOMPARE(Localizer::shared().t(LocKey::tagline), u"Your computer, with feelings."_qs);
             // Without arguments the text stays as written.
             QCOMPARE(Localizer::shared().t(LocKey::freedFmt), u"freed %@"_qs);
         }

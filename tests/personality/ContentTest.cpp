@@ -11,6 +11,7 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QRegularExpression>
 #include <QTest>
 
 namespace {
@@ -37,6 +38,12 @@ int expectedQuipCount(MoodKind kind, AppLanguage lang)
 int placeholders(const QString &line)
 {
     return int(line.count(QStringLiteral("%@")));
+}
+
+const QRegularExpression &loneEllipsis()
+{
+    static const QRegularExpression re(u"(?<!\u2026)\u2026(?!\u2026)"_qs);
+    return re;
 }
 
 void addLanguageRows()
@@ -74,6 +81,9 @@ private slots:
                     QVERIFY2(line == line.trimmed(), qPrintable(line));
                     for (const char16_t *bad : {u"\uFF05@", u"%\uFF20", u"\uFF05\uFF20", u"% @"})
                         QVERIFY2(!line.contains(QString::fromUtf16(bad)), qPrintable(line));
+                    // Chinese prose writes its ellipsis as a pair (……), never alone.
+                    if (lang == AppLanguage::zhHans || lang == AppLanguage::zhHant)
+                        QVERIFY2(!line.contains(loneEllipsis()), qPrintable(line));
                 }
             }
         }

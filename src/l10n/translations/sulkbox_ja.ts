@@ -26,7 +26,7 @@
     <message>
         <extracomment>userLabel</extracomment>
         <source>User</source>
-        <translation>ユーザ</translation>
+        <translation>ユーザー</translation>
     </message>
     <message>
         <extracomment>systemLabel</extracomment>
@@ -41,12 +41,12 @@
     <message>
         <extracomment>used</extracomment>
         <source>Used</source>
-        <translation>使用済み</translation>
+        <translation>使用中</translation>
     </message>
     <message>
         <extracomment>wired</extracomment>
         <source>Wired</source>
-        <translation>確保済み</translation>
+        <translation>固定</translation>
     </message>
     <message>
         <extracomment>compr</extracomment>
@@ -175,8 +175,8 @@
     </message>
     <message>
         <extracomment>noSensors</extracomment>
-        <source>No readable sensors on this Mac.</source>
-        <translation>この Mac には読み取れるセンサーがありません。</translation>
+        <source>No readable sensors on this computer.</source>
+        <translation>このパソコンには読み取れるセンサーがありません。</translation>
     </message>
     <message>
         <extracomment>charging</extracomment>
@@ -205,8 +205,8 @@
     </message>
     <message>
         <extracomment>activityMonitor</extracomment>
-        <source>Activity Monitor</source>
-        <translation>アクティビティモニタ</translation>
+        <source>System Monitor</source>
+        <translation>システムモニター</translation>
     </message>
     <message>
         <extracomment>quit</extracomment>
@@ -215,8 +215,8 @@
     </message>
     <message>
         <extracomment>yourMac</extracomment>
-        <source>Your Mac</source>
-        <translation>あなたの Mac</translation>
+        <source>Your computer</source>
+        <translation>このパソコン</translation>
     </message>
     <message>
         <extracomment>general</extracomment>
@@ -270,8 +270,8 @@
     </message>
     <message>
         <extracomment>showMood</extracomment>
-        <source>Show mood in menu bar</source>
-        <translation>メニューバーに気分を表示</translation>
+        <source>Show mood in the top bar</source>
+        <translation>トップバーに気分を表示</translation>
     </message>
     <message>
         <extracomment>petName</extracomment>
@@ -295,8 +295,8 @@
     </message>
     <message>
         <extracomment>savageModeHint</extracomment>
-        <source>Tap a module and it roasts you. Not for the sensitive.</source>
-        <translation>モジュールをタップすると毒舌が飛んできます。打たれ弱い人にはおすすめしません。</translation>
+        <source>Click a module and it roasts you. Not for the sensitive.</source>
+        <translation>モジュールをクリックすると毒舌が飛んできます。打たれ弱い人にはおすすめしません。</translation>
     </message>
     <message>
         <extracomment>modulesInPanel</extracomment>
@@ -325,8 +325,8 @@
     </message>
     <message>
         <extracomment>tagline</extracomment>
-        <source>Your Mac, with feelings.</source>
-        <translation>感情を持った Mac。</translation>
+        <source>Your computer, with feelings.</source>
+        <translation>感情を持ったパソコン。</translation>
     </message>
     <message>
         <extracomment>checkForUpdates</extracomment>
@@ -550,8 +550,8 @@
     </message>
     <message>
         <extracomment>reasonStartupDiskFull</extracomment>
-        <source>startup disk %@ full</source>
-        <translation>起動ディスク使用率 %@</translation>
+        <source>system disk %@ full</source>
+        <translation>システムディスク使用率 %@</translation>
     </message>
     <message>
         <extracomment>reasonIdleNight</extracomment>
@@ -586,7 +586,7 @@
     <message>
         <extracomment>holNewYear</extracomment>
         <source>happy new year!</source>
-        <translation>あけましておめでとう！</translation>
+        <translation>あけおめ！</translation>
     </message>
     <message>
         <extracomment>holValentines</extracomment>
@@ -611,7 +611,7 @@
     <message>
         <extracomment>holDragonBoat</extracomment>
         <source>happy dragon boat</source>
-        <translation>端午の節句</translation>
+        <translation>端午節おめでとう</translation>
     </message>
     <message>
         <extracomment>holMidAutumn</extracomment>

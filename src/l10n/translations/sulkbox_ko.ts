@@ -46,7 +46,7 @@
     <message>
         <extracomment>wired</extracomment>
         <source>Wired</source>
-        <translation>와이어드</translation>
+        <translation>고정</translation>
     </message>
     <message>
         <extracomment>compr</extracomment>
@@ -175,8 +175,8 @@
     </message>
     <message>
         <extracomment>noSensors</extracomment>
-        <source>No readable sensors on this Mac.</source>
-        <translation>이 Mac에는 읽을 수 있는 센서가 없습니다.</translation>
+        <source>No readable sensors on this computer.</source>
+        <translation>이 컴퓨터에는 읽을 수 있는 센서가 없습니다.</translation>
     </message>
     <message>
         <extracomment>charging</extracomment>
@@ -186,7 +186,7 @@
     <message>
         <extracomment>chargingToFull</extracomment>
         <source>Charging · %@</source>
-        <translation>충전 중 · %@</translation>
+        <translation>충전 중 · 완충까지 %@</translation>
     </message>
     <message>
         <extracomment>pluggedIn</extracomment>
@@ -205,8 +205,8 @@
     </message>
     <message>
         <extracomment>activityMonitor</extracomment>
-        <source>Activity Monitor</source>
-        <translation>활성 상태 보기</translation>
+        <source>System Monitor</source>
+        <translation>시스템 모니터</translation>
     </message>
     <message>
         <extracomment>quit</extracomment>
@@ -215,8 +215,8 @@
     </message>
     <message>
         <extracomment>yourMac</extracomment>
-        <source>Your Mac</source>
-        <translation>내 Mac</translation>
+        <source>Your computer</source>
+        <translation>내 컴퓨터</translation>
     </message>
     <message>
         <extracomment>general</extracomment>
@@ -270,8 +270,8 @@
     </message>
     <message>
         <extracomment>showMood</extracomment>
-        <source>Show mood in menu bar</source>
-        <translation>메뉴 막대에 기분 표시</translation>
+        <source>Show mood in the top bar</source>
+        <translation>상단 표시줄에 기분 표시</translation>
     </message>
     <message>
         <extracomment>petName</extracomment>
@@ -295,8 +295,8 @@
     </message>
     <message>
         <extracomment>savageModeHint</extracomment>
-        <source>Tap a module and it roasts you. Not for the sensitive.</source>
-        <translation>모듈을 누르면 독설이 날아옵니다. 마음 여린 분은 주의하세요.</translation>
+        <source>Click a module and it roasts you. Not for the sensitive.</source>
+        <translation>모듈을 클릭하면 독설이 날아옵니다. 마음 여린 분은 주의하세요.</translation>
     </message>
     <message>
         <extracomment>modulesInPanel</extracomment>
@@ -325,8 +325,8 @@
     </message>
     <message>
         <extracomment>tagline</extracomment>
-        <source>Your Mac, with feelings.</source>
-        <translation>감정이 있는 당신의 Mac.</translation>
+        <source>Your computer, with feelings.</source>
+        <translation>감정이 있는 내 컴퓨터.</translation>
     </message>
     <message>
         <extracomment>checkForUpdates</extracomment>
@@ -386,7 +386,7 @@
     <message>
         <extracomment>runningLow</extracomment>
         <source>running low</source>
-        <translation>기운 없어</translation>
+        <translation>방전 직전</translation>
     </message>
     <message>
         <extracomment>memoryFull</extracomment>
@@ -491,7 +491,7 @@
     <message>
         <extracomment>reasonStartingUp</extracomment>
         <source>starting up</source>
-        <translation>시동 중</translation>
+        <translation>시작하는 중</translation>
     </message>
     <message>
         <extracomment>reasonFromHeat</extracomment>
@@ -550,8 +550,8 @@
     </message>
     <message>
         <extracomment>reasonStartupDiskFull</extracomment>
-        <source>startup disk %@ full</source>
-        <translation>시동 디스크 %@ 사용 중</translation>
+        <source>system disk %@ full</source>
+        <translation>시스템 디스크 %@ 사용 중</translation>
     </message>
     <message>
         <extracomment>reasonIdleNight</extracomment>

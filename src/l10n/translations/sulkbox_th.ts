@@ -71,7 +71,7 @@
     <message>
         <extracomment>installedFmt</extracomment>
         <source>%@ installed</source>
-        <translation>ติดตั้งไว้ %@</translation>
+        <translation>ทั้งหมด %@</translation>
     </message>
     <message>
         <extracomment>freeUp</extracomment>
@@ -161,7 +161,7 @@
     <message>
         <extracomment>health</extracomment>
         <source>Health</source>
-        <translation>สภาพ</translation>
+        <translation>สุขภาพแบต</translation>
     </message>
     <message>
         <extracomment>cycles</extracomment>
@@ -175,8 +175,8 @@
     </message>
     <message>
         <extracomment>noSensors</extracomment>
-        <source>No readable sensors on this Mac.</source>
-        <translation>ไม่พบเซ็นเซอร์ที่อ่านค่าได้บน Mac เครื่องนี้</translation>
+        <source>No readable sensors on this computer.</source>
+        <translation>ไม่พบเซ็นเซอร์ที่อ่านค่าได้ในคอมพิวเตอร์เครื่องนี้</translation>
     </message>
     <message>
         <extracomment>charging</extracomment>
@@ -186,7 +186,7 @@
     <message>
         <extracomment>chargingToFull</extracomment>
         <source>Charging · %@</source>
-        <translation>กำลังชาร์จ · %@</translation>
+        <translation>กำลังชาร์จ · อีก %@ เต็ม</translation>
     </message>
     <message>
         <extracomment>pluggedIn</extracomment>
@@ -205,8 +205,8 @@
     </message>
     <message>
         <extracomment>activityMonitor</extracomment>
-        <source>Activity Monitor</source>
-        <translation>ตัวตรวจสอบกิจกรรม</translation>
+        <source>System Monitor</source>
+        <translation>ตัวตรวจสอบระบบ</translation>
     </message>
     <message>
         <extracomment>quit</extracomment>
@@ -215,8 +215,8 @@
     </message>
     <message>
         <extracomment>yourMac</extracomment>
-        <source>Your Mac</source>
-        <translation>Mac ของคุณ</translation>
+        <source>Your computer</source>
+        <translation>คอมของคุณ</translation>
     </message>
     <message>
         <extracomment>general</extracomment>
@@ -270,8 +270,8 @@
     </message>
     <message>
         <extracomment>showMood</extracomment>
-        <source>Show mood in menu bar</source>
-        <translation>แสดงอารมณ์ในแถบเมนู</translation>
+        <source>Show mood in the top bar</source>
+        <translation>แสดงอารมณ์ที่แถบด้านบน</translation>
     </message>
     <message>
         <extracomment>petName</extracomment>
@@ -295,8 +295,8 @@
     </message>
     <message>
         <extracomment>savageModeHint</extracomment>
-        <source>Tap a module and it roasts you. Not for the sensitive.</source>
-        <translation>แตะโมดูลไหนก็โดนแซะ ไม่เหมาะกับคนใจบาง</translation>
+        <source>Click a module and it roasts you. Not for the sensitive.</source>
+        <translation>คลิกโมดูลไหนก็โดนแซะ ไม่เหมาะกับคนใจบาง</translation>
     </message>
     <message>
         <extracomment>modulesInPanel</extracomment>
@@ -325,8 +325,8 @@
     </message>
     <message>
         <extracomment>tagline</extracomment>
-        <source>Your Mac, with feelings.</source>
-        <translation>Mac ของคุณ ที่มีความรู้สึก</translation>
+        <source>Your computer, with feelings.</source>
+        <translation>คอมของคุณ ที่มีความรู้สึก</translation>
     </message>
     <message>
         <extracomment>checkForUpdates</extracomment>
@@ -361,7 +361,7 @@
     <message>
         <extracomment>power</extracomment>
         <source>Power</source>
-        <translation>พลังงาน</translation>
+        <translation>กำลังไฟ</translation>
     </message>
     <message>
         <extracomment>totalLabel</extracomment>
@@ -411,7 +411,7 @@
     <message>
         <extracomment>workingHard</extracomment>
         <source>working hard</source>
-        <translation>ทำงานหนัก</translation>
+        <translation>ปั่นงานยิกๆ</translation>
     </message>
     <message>
         <extracomment>gobblingData</extracomment>
@@ -550,8 +550,8 @@
     </message>
     <message>
         <extracomment>reasonStartupDiskFull</extracomment>
-        <source>startup disk %@ full</source>
-        <translation>ดิสก์เริ่มระบบเต็ม %@</translation>
+        <source>system disk %@ full</source>
+        <translation>ดิสก์ระบบเต็ม %@</translation>
     </message>
     <message>
         <extracomment>reasonIdleNight</extracomment>
@@ -611,12 +611,12 @@
     <message>
         <extracomment>holDragonBoat</extracomment>
         <source>happy dragon boat</source>
-        <translation>สุขสันต์เทศกาลไหว้บ๊ะจ่าง</translation>
+        <translation>เทศกาลบ๊ะจ่าง</translation>
     </message>
     <message>
         <extracomment>holMidAutumn</extracomment>
         <source>happy mid-autumn</source>
-        <translation>สุขสันต์วันไหว้พระจันทร์</translation>
+        <translation>วันไหว้พระจันทร์</translation>
     </message>
     <message>
         <extracomment>holCheer</extracomment>

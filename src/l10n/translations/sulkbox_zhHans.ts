@@ -46,7 +46,7 @@
     <message>
         <extracomment>wired</extracomment>
         <source>Wired</source>
-        <translation>联动</translation>
+        <translation>锁定</translation>
     </message>
     <message>
         <extracomment>compr</extracomment>
@@ -81,7 +81,7 @@
     <message>
         <extracomment>cleaning</extracomment>
         <source>cleaning…</source>
-        <translation>清理中…</translation>
+        <translation>清理中……</translation>
     </message>
     <message>
         <extracomment>freedFmt</extracomment>
@@ -91,7 +91,7 @@
     <message>
         <extracomment>freshening</extracomment>
         <source>freshening up…</source>
-        <translation>收拾一下…</translation>
+        <translation>收拾一下……</translation>
     </message>
     <message>
         <extracomment>muchLighter</extracomment>
@@ -175,8 +175,8 @@
     </message>
     <message>
         <extracomment>noSensors</extracomment>
-        <source>No readable sensors on this Mac.</source>
-        <translation>这台 Mac 上没有可读取的传感器。</translation>
+        <source>No readable sensors on this computer.</source>
+        <translation>这台电脑上没有可读取的传感器。</translation>
     </message>
     <message>
         <extracomment>charging</extracomment>
@@ -205,8 +205,8 @@
     </message>
     <message>
         <extracomment>activityMonitor</extracomment>
-        <source>Activity Monitor</source>
-        <translation>活动监视器</translation>
+        <source>System Monitor</source>
+        <translation>系统监视器</translation>
     </message>
     <message>
         <extracomment>quit</extracomment>
@@ -215,8 +215,8 @@
     </message>
     <message>
         <extracomment>yourMac</extracomment>
-        <source>Your Mac</source>
-        <translation>你的 Mac</translation>
+        <source>Your computer</source>
+        <translation>你的电脑</translation>
     </message>
     <message>
         <extracomment>general</extracomment>
@@ -270,8 +270,8 @@
     </message>
     <message>
         <extracomment>showMood</extracomment>
-        <source>Show mood in menu bar</source>
-        <translation>在菜单栏显示心情</translation>
+        <source>Show mood in the top bar</source>
+        <translation>在顶栏显示心情</translation>
     </message>
     <message>
         <extracomment>petName</extracomment>
@@ -295,7 +295,7 @@
     </message>
     <message>
         <extracomment>savageModeHint</extracomment>
-        <source>Tap a module and it roasts you. Not for the sensitive.</source>
+        <source>Click a module and it roasts you. Not for the sensitive.</source>
         <translation>点一下模块，它就会吐槽你。玻璃心慎入。</translation>
     </message>
     <message>
@@ -325,8 +325,8 @@
     </message>
     <message>
         <extracomment>tagline</extracomment>
-        <source>Your Mac, with feelings.</source>
-        <translation>让你的 Mac 有点小情绪。</translation>
+        <source>Your computer, with feelings.</source>
+        <translation>让你的电脑有点小情绪。</translation>
     </message>
     <message>
         <extracomment>checkForUpdates</extracomment>
@@ -396,7 +396,7 @@
     <message>
         <extracomment>swappingHard</extracomment>
         <source>swapping hard</source>
-        <translation>疯狂交换中</translation>
+        <translation>狂用交换区</translation>
     </message>
     <message>
         <extracomment>phew</extracomment>
@@ -511,7 +511,7 @@
     <message>
         <extracomment>reasonFromSwap</extracomment>
         <source>from %@ swap</source>
-        <translation>因为交换占用 %@</translation>
+        <translation>因为交换区占用 %@</translation>
     </message>
     <message>
         <extracomment>reasonJustCooled</extracomment>
@@ -550,8 +550,8 @@
     </message>
     <message>
         <extracomment>reasonStartupDiskFull</extracomment>
-        <source>startup disk %@ full</source>
-        <translation>启动盘已用 %@</translation>
+        <source>system disk %@ full</source>
+        <translation>系统盘已用 %@</translation>
     </message>
     <message>
         <extracomment>reasonIdleNight</extracomment>

@@ -46,7 +46,7 @@
     <message>
         <extracomment>wired</extracomment>
         <source>Wired</source>
-        <translation>固定</translation>
+        <translation>鎖定</translation>
     </message>
     <message>
         <extracomment>compr</extracomment>
@@ -81,7 +81,7 @@
     <message>
         <extracomment>cleaning</extracomment>
         <source>cleaning…</source>
-        <translation>清理中…</translation>
+        <translation>清理中……</translation>
     </message>
     <message>
         <extracomment>freedFmt</extracomment>
@@ -91,7 +91,7 @@
     <message>
         <extracomment>freshening</extracomment>
         <source>freshening up…</source>
-        <translation>整理一下…</translation>
+        <translation>整理一下……</translation>
     </message>
     <message>
         <extracomment>muchLighter</extracomment>
@@ -175,8 +175,8 @@
     </message>
     <message>
         <extracomment>noSensors</extracomment>
-        <source>No readable sensors on this Mac.</source>
-        <translation>這台 Mac 沒有可讀取的感測器。</translation>
+        <source>No readable sensors on this computer.</source>
+        <translation>這台電腦沒有可讀取的感測器。</translation>
     </message>
     <message>
         <extracomment>charging</extracomment>
@@ -205,8 +205,8 @@
     </message>
     <message>
         <extracomment>activityMonitor</extracomment>
-        <source>Activity Monitor</source>
-        <translation>活動監視器</translation>
+        <source>System Monitor</source>
+        <translation>系統監視器</translation>
     </message>
     <message>
         <extracomment>quit</extracomment>
@@ -215,8 +215,8 @@
     </message>
     <message>
         <extracomment>yourMac</extracomment>
-        <source>Your Mac</source>
-        <translation>你的 Mac</translation>
+        <source>Your computer</source>
+        <translation>你的電腦</translation>
     </message>
     <message>
         <extracomment>general</extracomment>
@@ -270,8 +270,8 @@
     </message>
     <message>
         <extracomment>showMood</extracomment>
-        <source>Show mood in menu bar</source>
-        <translation>在選單列顯示心情</translation>
+        <source>Show mood in the top bar</source>
+        <translation>在頂端列顯示心情</translation>
     </message>
     <message>
         <extracomment>petName</extracomment>
@@ -295,7 +295,7 @@
     </message>
     <message>
         <extracomment>savageModeHint</extracomment>
-        <source>Tap a module and it roasts you. Not for the sensitive.</source>
+        <source>Click a module and it roasts you. Not for the sensitive.</source>
         <translation>點一下模組，它就會嗆你。玻璃心慎入。</translation>
     </message>
     <message>
@@ -325,8 +325,8 @@
     </message>
     <message>
         <extracomment>tagline</extracomment>
-        <source>Your Mac, with feelings.</source>
-        <translation>讓你的 Mac 有點小情緒。</translation>
+        <source>Your computer, with feelings.</source>
+        <translation>讓你的電腦有點小情緒。</translation>
     </message>
     <message>
         <extracomment>checkForUpdates</extracomment>
@@ -396,7 +396,7 @@
     <message>
         <extracomment>swappingHard</extracomment>
         <source>swapping hard</source>
-        <translation>狂用置換中</translation>
+        <translation>瘋狂置換中</translation>
     </message>
     <message>
         <extracomment>phew</extracomment>
@@ -481,7 +481,7 @@
     <message>
         <extracomment>glovesOff</extracomment>
         <source>gloves off!</source>
-        <translation>不客氣了！</translation>
+        <translation>要開嗆了！</translation>
     </message>
     <message>
         <extracomment>beingNice</extracomment>
@@ -550,8 +550,8 @@
     </message>
     <message>
         <extracomment>reasonStartupDiskFull</extracomment>
-        <source>startup disk %@ full</source>
-        <translation>開機磁碟已用 %@</translation>
+        <source>system disk %@ full</source>
+        <translation>系統磁碟已用 %@</translation>
     </message>
     <message>
         <extracomment>reasonIdleNight</extracomment>
