@@ -2,7 +2,7 @@
 // `reaction` and `roastEvent` announce a change, and the roast's expiry.
 
 #include "common/TestSupport.h"
-#include "model/FakeSamplers.h"
+#include "common/FakeSamplers.h"
 
 #include "settings/Settings.h"
 #include "model/SystemMonitor.h"

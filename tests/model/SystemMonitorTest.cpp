@@ -1,5 +1,5 @@
 #include "common/TestSupport.h"
-#include "model/FakeSamplers.h"
+#include "common/FakeSamplers.h"
 
 #include "settings/Settings.h"
 #include "model/SystemMonitor.h"

@@ -1,0 +1,36 @@
+#include "ui/common/QmlFormat.h"
+
+#include "l10n/Fmt.h"
+#include "l10n/Localizer.h"
+
+#include <cmath>
+
+QColor loadColor(double f)
+{
+    if (!(f > 0))
+        f = 0;
+    if (f > 1)
+        f = 1;
+    if (f < 0.5)
+        return QColor::fromHsvF(float(0.33 - 0.18 * (2 * f)), 0.75f, 0.85f);
+    return QColor::fromHsvF(float(0.15 - 0.15 * (2 * (f - 0.5))), 0.85f, 0.9f);
+}
+
+QString QmlFormat::bytes(double v, int decimals) const { return Fmt::bytes(v, decimals); }
+QString QmlFormat::rate(double v, int decimals) const { return Fmt::bytes(v, decimals) + QStringLiteral("/s"); }
+QString QmlFormat::percent(double v, int decimals) const { return Fmt::percent(v, decimals); }
+QString QmlFormat::watts(double v) const { return Fmt::watts(v); }
+QString QmlFormat::minutes(int m) const { return Fmt::minutes(m); }
+QString QmlFormat::fixed(double v, int decimals) const { return Fmt::fixed(v, decimals); }
+QColor QmlFormat::loadColor(double f) const { return ::loadColor(f); }
+
+QString QmlFormat::temp(double celsius, bool fahrenheit) const
+{
+    Q_UNUSED(fahrenheit) // the argument only ties the binding to the setting
+    return Fmt::temp(celsius);
+}
+
+QString QmlFormat::fill(const QString &format, const QStringList &args) const
+{
+    return Localizer::fill(format, args);
+}
