@@ -8,13 +8,13 @@ set -euo pipefail
 packages=(
     cmake g++ make pkg-config ccache
     qt6-base-dev qt6-declarative-dev qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools
-    libicu-dev libgl-dev
+    libicu-dev libgl-dev libqt6svg6
     qml6-module-qtquick qml6-module-qtquick-controls qml6-module-qtquick-layouts
     qml6-module-qtquick-window qml6-module-qtquick-templates qml6-module-qtqml-workerscript
     fonts-noto-color-emoji fonts-noto-cjk fonts-noto-core
 )
 if [[ "${1:-}" == "--test" ]]; then
-    packages+=(locales xvfb xauth procps)
+    packages+=(locales xvfb xauth procps desktop-file-utils)
 fi
 
 missing=()
