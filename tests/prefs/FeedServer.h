@@ -1,7 +1,8 @@
 #pragma once
 // A small HTTP/1.1 server on 127.0.0.1 for the update tests: each path has a
 // canned answer, every request is counted, and some answers misbehave on
-// purpose (never answer, redirect, stream without end).
+// purpose (never answer, redirect, stream without end). Every answer closes
+// its connection, so each request the client makes arrives exactly once.
 
 #include <QHash>
 #include <QPointer>
@@ -110,8 +111,9 @@ private:
         case Kind::silent:
             return; // keeps the connection open and says nothing
         case Kind::redirect:
-            head += "Location: " + r.location + "\r\nContent-Length: 0\r\n\r\n";
+            head += "Location: " + r.location + "\r\nContent-Length: 0\r\nConnection: close\r\n\r\n";
             socket->write(head);
+            socket->disconnectFromHost();
             return;
         case Kind::endless:
             head += "Content-Type: application/rss+xml\r\nConnection: close\r\n\r\n";
@@ -122,12 +124,9 @@ private:
             head += "Content-Type: application/rss+xml; charset=utf-8\r\n";
             if (r.sendLength)
                 head += "Content-Length: " + QByteArray::number(r.body.size()) + "\r\n";
-            else
-                head += "Connection: close\r\n";
-            head += "\r\n";
+            head += "Connection: close\r\n\r\n";
             socket->write(head + r.body);
-            if (!r.sendLength)
-                socket->disconnectFromHost();
+            socket->disconnectFromHost();
             return;
         }
     }

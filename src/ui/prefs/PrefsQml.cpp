@@ -38,8 +38,10 @@ void present(QQuickWindow *window)
         return;
     if (window->windowStates() & Qt::WindowMinimized)
         window->setWindowStates(window->windowStates() & ~Qt::WindowMinimized);
-    window->show();
-    window->raise();
+    if (window->isVisible())
+        window->raise(); // already open: bring it forward
+    else
+        window->show();
     window->requestActivate();
 }
 

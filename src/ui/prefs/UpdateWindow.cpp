@@ -88,7 +88,7 @@ void UpdateWindow::onFinished(const Updater::Result &result, bool userInitiated)
 void UpdateWindow::show()
 {
     if (!m_window) {
-        m_context = PrefsQml::makeContext(QStringLiteral("update"), this);
+        m_context = PrefsQml::makeContext(QStringLiteral("updateCheck"), this);
         m_window = PrefsQml::createWindow(QStringLiteral("qrc:/sulkbox/qml/UpdateResult.qml"), m_context);
     }
     PrefsQml::present(m_window);

@@ -4,7 +4,7 @@
 // that opens its download page in the browser), or why the check failed.
 // A check the user asked for always shows it; an automatic check shows it
 // only when a newer version exists. QML: qrc:/sulkbox/qml/UpdateResult.qml,
-// on the shared engine, context property `update`.
+// on the shared engine, context property `updateCheck`.
 
 #include "app/desktop/Updater.h"
 

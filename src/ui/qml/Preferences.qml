@@ -68,6 +68,10 @@ ApplicationWindow {
         flick.contentY = Math.max(0, flick.contentHeight - flick.height)
     }
 
+    function scrollToTop() {
+        flick.contentY = 0
+    }
+
     // Tabbing through the controls keeps the focused one in view.
     onActiveFocusItemChanged: {
         let item = activeFocusItem
@@ -125,6 +129,8 @@ ApplicationWindow {
         Layout.rightMargin: 10
         Layout.minimumHeight: 38
         spacing: 10
+        // Dimmed, with its control, while the row cannot be changed.
+        opacity: enabled ? 1 : 0.45
         Label {
             id: rowLabel
             Layout.fillWidth: true
@@ -358,6 +364,8 @@ ApplicationWindow {
                         objectName: "checkForUpdatesButton"
                         text: texts.checkForUpdates
                         enabled: prefs.updatesConfigured
+                        opacity: enabled ? 1 : 0.45
+                        Layout.minimumWidth: implicitWidth
                         Layout.alignment: Qt.AlignVCenter
                         onClicked: prefs.checkForUpdates()
                     }

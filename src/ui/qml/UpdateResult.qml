@@ -1,4 +1,4 @@
-// The result of an update check. Context: texts, fmt (shared); update
+// The result of an update check. Context: texts, fmt (shared); updateCheck
 // (UpdateWindow) and scheme (ColorScheme) of this window.
 import QtQuick
 import QtQuick.Controls.Fusion
@@ -43,15 +43,15 @@ ApplicationWindow {
     readonly property real basePx: Qt.application.font.pixelSize > 0
                                    ? Qt.application.font.pixelSize
                                    : Qt.application.font.pointSize * 4 / 3
-    readonly property bool checking: update.state === "checking"
-    readonly property bool available: update.state === "available"
-    readonly property bool failed: update.state === "failed"
+    readonly property bool checking: updateCheck.state === "checking"
+    readonly property bool available: updateCheck.state === "available"
+    readonly property bool failed: updateCheck.state === "failed"
 
     function failureText() {
-        switch (update.failure) {
+        switch (updateCheck.failure) {
         case "notConfigured": return texts.updatesFromDistro
         case "timedOut": return texts.updateErrorTimeout
-        case "serverError": return fmt.fill(texts.updateErrorServerFmt, [update.errorCode])
+        case "serverError": return fmt.fill(texts.updateErrorServerFmt, [updateCheck.errorCode])
         case "badFeed": return texts.updateErrorBadFeed
         default: return texts.updateErrorOffline
         }
@@ -59,7 +59,7 @@ ApplicationWindow {
 
     Shortcut {
         sequences: [StandardKey.Close, StandardKey.Cancel]
-        onActivated: update.close()
+        onActivated: updateCheck.close()
     }
 
     RowLayout {
@@ -70,8 +70,8 @@ ApplicationWindow {
         spacing: 16
 
         Image {
-            visible: update.iconSource !== ""
-            source: update.iconSource
+            visible: updateCheck.iconSource !== ""
+            source: updateCheck.iconSource
             sourceSize: Qt.size(128, 128)
             Layout.preferredWidth: 64
             Layout.preferredHeight: 64
@@ -109,15 +109,15 @@ ApplicationWindow {
                 visible: !root.checking
                 wrapMode: Text.Wrap
                 text: root.available
-                      ? fmt.fill(texts.updateAvailableFmt, [update.newVersion]) + " "
-                        + fmt.fill(texts.youHaveFmt, [update.currentVersion])
+                      ? fmt.fill(texts.updateAvailableFmt, [updateCheck.newVersion]) + " "
+                        + fmt.fill(texts.youHaveFmt, [updateCheck.currentVersion])
                       : root.failed ? root.failureText()
-                      : fmt.fill(texts.upToDateFmt, [update.currentVersion])
+                      : fmt.fill(texts.upToDateFmt, [updateCheck.currentVersion])
             }
 
             Rectangle {
                 objectName: "updateNotes"
-                visible: root.available && update.notes !== ""
+                visible: root.available && updateCheck.notes !== ""
                 Layout.fillWidth: true
                 Layout.preferredHeight: 150
                 radius: 6
@@ -131,7 +131,7 @@ ApplicationWindow {
                         selectByMouse: true
                         wrapMode: TextEdit.Wrap
                         textFormat: TextEdit.PlainText
-                        text: update.notes
+                        text: updateCheck.notes
                         background: null
                     }
                 }
@@ -145,22 +145,22 @@ ApplicationWindow {
 
                 Button {
                     objectName: "releaseNotesButton"
-                    visible: root.available && update.hasReleaseNotes
+                    visible: root.available && updateCheck.hasReleaseNotes
                     text: texts.releaseNotes
-                    onClicked: update.openReleaseNotes()
+                    onClicked: updateCheck.openReleaseNotes()
                 }
                 Item { Layout.fillWidth: true }
                 Button {
                     objectName: "dismissButton"
                     text: root.available ? texts.notNow : texts.ok
-                    onClicked: update.close()
+                    onClicked: updateCheck.close()
                 }
                 Button {
                     objectName: "downloadButton"
-                    visible: root.available && update.hasDownloadPage
+                    visible: root.available && updateCheck.hasDownloadPage
                     highlighted: true
                     text: texts.openDownloadPage
-                    onClicked: update.openDownloadPage()
+                    onClicked: updateCheck.openDownloadPage()
                 }
             }
         }
