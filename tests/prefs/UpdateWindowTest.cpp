@@ -144,7 +144,7 @@ private slots:
         QCOMPARE(text(w, u"updateHeading"_qs), u"A new version of sulkbox is available!"_qs);
         QCOMPARE(text(w, u"updateMessage"_qs), u"sulkbox 1.1 is ready to download. You have 1.0."_qs);
         QVERIFY(shown(find(w, u"updateNotes"_qs)));
-        QCOMPARE(rig.updates->notes(), u"Calmer fans"_qs);
+        QCOMPARE(rig.updates->notes(), u"• Calmer fans"_qs);
         QCOMPARE(text(w, u"dismissButton"_qs), u"Not Now"_qs);
 
         click(w, u"releaseNotesButton"_qs);

@@ -52,7 +52,7 @@ private slots:
         QCOMPARE(one.version, u"41"_qs);
         QCOMPARE(one.displayVersion(), u"1.1"_qs);
         QCOMPARE(one.notesPage(), QUrl(u"https://example.org/notes/1.1"_qs));
-        QCOMPARE(one.notes, u"Faster & calmer"_qs);
+        QCOMPARE(one.notes, u"• Faster & calmer\n• Quieter fans\n\nThanks!"_qs);
         // No page of its own: the browser goes to the file.
         QCOMPARE(one.downloadPage(), QUrl(u"https://example.org/1.1.tar.gz"_qs));
         const AppcastItem &two = items->at(1);

@@ -1,7 +1,9 @@
 #include "app/desktop/Appcast.h"
 
 #include <QStringList>
-#include <QTextDocumentFragment>
+#include <QTextBlock>
+#include <QTextDocument>
+#include <QTextList>
 #include <QXmlStreamReader>
 
 namespace {
@@ -23,11 +25,38 @@ QUrl webUrl(const QString &text)
     return url.isValid() ? url : QUrl();
 }
 
+// HTML notes as plain lines; list items keep a bullet or their number.
+QString htmlToText(const QString &html)
+{
+    QTextDocument doc;
+    doc.setHtml(html);
+    QStringList lines;
+    bool previousWasItem = false;
+    for (QTextBlock block = doc.begin(); block.isValid(); block = block.next()) {
+        QString line = block.text().replace(QChar::LineSeparator, u'\n').trimmed();
+        QTextList *list = block.textList();
+        if (line.isEmpty() && !list)
+            continue;
+        // Paragraphs are set apart by a blank line; items of a list are not.
+        if (!lines.isEmpty() && !(list && previousWasItem))
+            lines << QString();
+        if (list) {
+            const bool numbered = list->format().style() == QTextListFormat::ListDecimal;
+            line = (numbered ? QString::number(list->itemNumber(block) + 1) + QStringLiteral(". ")
+                             : QStringLiteral("• "))
+                + line;
+        }
+        previousWasItem = list != nullptr;
+        lines << line;
+    }
+    return lines.join(u'\n');
+}
+
 QString plainNotes(const QString &text)
 {
     QString notes = text.trimmed();
     if (notes.contains(u'<'))
-        notes = QTextDocumentFragment::fromHtml(notes).toPlainText().trimmed();
+        notes = htmlToText(notes);
     if (notes.size() > kMaxNotes)
         notes = notes.left(kMaxNotes) + u'…';
     return notes;

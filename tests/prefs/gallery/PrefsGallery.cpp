@@ -2,11 +2,13 @@
 // interface language, light and dark, for people to look at:
 //   prefs_gallery [output folder]      (default: ./gallery)
 // writes prefs-<language>-<light|dark>.png (top of the window),
-// prefs-<language>-<light|dark>-end.png (scrolled to the end) and
+// prefs-<language>-<light|dark>-end.png (scrolled to the end),
+// prefs-en-<light|dark>-languages.png (the language picker open) and
 // prefs-update-<state>-<language>-<light|dark>.png. The user's settings are
 // never touched: everything runs in a temporary configuration folder.
 
 #include "../FeedServer.h"
+#include "../QuickDriver.h"
 
 #include "common/FakeSamplers.h"
 
@@ -23,6 +25,7 @@
 #include <QDir>
 #include <QGuiApplication>
 #include <QNetworkProxy>
+#include <QQuickItem>
 #include <QQuickWindow>
 #include <QSettings>
 #include <QTemporaryDir>
@@ -101,6 +104,16 @@ int main(int argc, char **argv)
                 return 1;
             QMetaObject::invokeMethod(w, "scrollToTop");
             ok &= save(w, QStringLiteral("%1/prefs-%2-%3.png").arg(out, name, scheme));
+            if (lang == AppLanguage::en) {
+                // The language picker open: every language in its own script.
+                QObject *picker = QuickDriver::find(w, QStringLiteral("languagePicker"));
+                QObject *popup = picker ? picker->property("popup").value<QObject *>() : nullptr;
+                if (popup) {
+                    QMetaObject::invokeMethod(popup, "open");
+                    ok &= save(w, QStringLiteral("%1/prefs-%2-%3-languages.png").arg(out, name, scheme));
+                    QMetaObject::invokeMethod(popup, "close");
+                }
+            }
             QMetaObject::invokeMethod(w, "scrollToEnd");
             ok &= save(w, QStringLiteral("%1/prefs-%2-%3-end.png").arg(out, name, scheme));
 
