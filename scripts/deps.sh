@@ -12,9 +12,10 @@ packages=(
     qml6-module-qtquick qml6-module-qtquick-controls qml6-module-qtquick-layouts
     qml6-module-qtquick-window qml6-module-qtquick-templates qml6-module-qtqml-workerscript
     fonts-noto-color-emoji fonts-noto-cjk fonts-noto-core
+    libqt6svg6 librsvg2-bin dpkg-dev
 )
 if [[ "${1:-}" == "--test" ]]; then
-    packages+=(locales xvfb xauth procps)
+    packages+=(locales xvfb xauth procps desktop-file-utils appstream man-db)
 fi
 
 missing=()
