@@ -400,6 +400,20 @@ private slots:
 
         QQuickItem *button = find(w, u"checkForUpdatesButton"_qs);
         QCOMPARE(textOf(button), u"Check for Updates…"_qs);
+        // Icon, text and button share one centre line, on the first opening
+        // and after a language change re-wraps the text.
+        for (AppLanguage lang : {AppLanguage::en, AppLanguage::th}) {
+            Localizer::shared().setLanguage(lang);
+            QVERIFY(QQuickTest::qWaitForPolish(w));
+            QQuickItem *icon = find(w, u"appIcon"_qs);
+            QQuickItem *version = find(w, u"versionLabel"_qs);
+            const auto centre = [](QQuickItem *i) { return sceneY(i) + i->height() / 2; };
+            if (shown(icon))
+                QVERIFY2(std::abs(centre(icon) - centre(button)) < 2,
+                         qPrintable(u"%1 vs %2"_qs.arg(centre(icon)).arg(centre(button))));
+            QVERIFY(std::abs(centre(version) - centre(button)) < 12);
+        }
+        Localizer::shared().setLanguage(AppLanguage::en);
         QVERIFY(!button->isEnabled());
         QVERIFY(!find(w, u"autoUpdateSwitch"_qs)->isEnabled());
         QQuickItem *hint = find(w, u"updatesFromDistroHint"_qs);

@@ -319,27 +319,44 @@ ApplicationWindow {
             // --- About ---------------------------------------------------
             SectionHeader { text: texts.about }
             Card {
-                RowLayout {
+                // Icon, name and version, and the update button, centred on
+                // one line. Anchored rather than laid out, so that text that
+                // wraps differently after a language change never leaves a
+                // piece at its old height.
+                Item {
+                    id: aboutRow
                     Layout.fillWidth: true
                     Layout.margins: 12
                     Layout.rightMargin: 10
-                    spacing: 10
-                    Image {
+                    implicitHeight: Math.max(appIcon.visible ? appIcon.height : 0, aboutText.implicitHeight,
+                                             updateButton.implicitHeight)
+
+                    Item {
+                        id: appIcon
                         objectName: "appIcon"
                         visible: prefs.iconSource !== ""
-                        source: prefs.iconSource
-                        sourceSize: Qt.size(88, 88)
-                        Layout.preferredWidth: 44
-                        Layout.preferredHeight: 44
-                        Layout.alignment: Qt.AlignVCenter
-                        fillMode: Image.PreserveAspectFit
-                        smooth: true
+                        width: 44
+                        height: 44
+                        anchors.left: parent.left
+                        anchors.verticalCenter: parent.verticalCenter
+                        Image {
+                            anchors.fill: parent
+                            source: prefs.iconSource
+                            sourceSize: Qt.size(88, 88)
+                            fillMode: Image.PreserveAspectFit
+                            smooth: true
+                        }
                     }
                     ColumnLayout {
-                        Layout.fillWidth: true
-                        Layout.alignment: Qt.AlignVCenter
+                        id: aboutText
+                        anchors.left: appIcon.visible ? appIcon.right : parent.left
+                        anchors.leftMargin: appIcon.visible ? 10 : 0
+                        anchors.right: updateButton.left
+                        anchors.rightMargin: 10
+                        anchors.verticalCenter: parent.verticalCenter
                         spacing: 2
                         Label {
+                            Layout.fillWidth: true
                             text: "sulkbox"
                             font.pixelSize: Math.round(root.basePx * 1.08)
                             font.weight: Font.DemiBold
@@ -361,12 +378,13 @@ ApplicationWindow {
                         }
                     }
                     Button {
+                        id: updateButton
                         objectName: "checkForUpdatesButton"
+                        anchors.right: parent.right
+                        anchors.verticalCenter: parent.verticalCenter
                         text: texts.checkForUpdates
                         enabled: prefs.updatesConfigured
                         opacity: enabled ? 1 : 0.45
-                        Layout.minimumWidth: implicitWidth
-                        Layout.alignment: Qt.AlignVCenter
                         onClicked: prefs.checkForUpdates()
                     }
                 }

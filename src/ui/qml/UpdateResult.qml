@@ -69,15 +69,18 @@ ApplicationWindow {
         width: root.width - 40
         spacing: 16
 
-        Image {
+        Item {
             visible: updateCheck.iconSource !== ""
-            source: updateCheck.iconSource
-            sourceSize: Qt.size(128, 128)
-            Layout.preferredWidth: 64
-            Layout.preferredHeight: 64
+            implicitWidth: 64
+            implicitHeight: 64
             Layout.alignment: Qt.AlignTop
-            fillMode: Image.PreserveAspectFit
-            smooth: true
+            Image {
+                anchors.fill: parent
+                source: updateCheck.iconSource
+                sourceSize: Qt.size(128, 128)
+                fillMode: Image.PreserveAspectFit
+                smooth: true
+            }
         }
 
         ColumnLayout {
