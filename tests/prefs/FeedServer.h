@@ -73,6 +73,10 @@ public:
 private:
     void onRead(QTcpSocket *socket)
     {
+        // A request on a connection already answered and closing is never
+        // served; the client sends it again on a new one.
+        if (socket->state() != QAbstractSocket::ConnectedState)
+            return;
         QByteArray &buffer = m_buffers[socket];
         buffer += socket->readAll();
         const int end = buffer.indexOf("\r\n\r\n");

@@ -142,7 +142,7 @@ private slots:
         QVERIFY(w);
         QCOMPARE(w->title(), u"Software Update"_qs);
         QCOMPARE(text(w, u"updateHeading"_qs), u"A new version of sulkbox is available!"_qs);
-        QCOMPARE(text(w, u"updateMessage"_qs), u"sulkbox 1.1 is ready to download. You have 1.0."_qs);
+        QCOMPARE(text(w, u"updateMessage"_qs), u"sulkbox 1.1 is ready to download.\nYou have 1.0."_qs);
         QVERIFY(shown(find(w, u"updateNotes"_qs)));
         QCOMPARE(rig.updates->notes(), u"• Calmer fans"_qs);
         QCOMPARE(text(w, u"dismissButton"_qs), u"Not Now"_qs);
@@ -166,7 +166,7 @@ private slots:
         QTest::newRow("same version") << u"/same.xml"_qs << u"upToDate"_qs << u"You’re up to date!"_qs
                                       << u"sulkbox 1.0 is the newest version available."_qs;
         QTest::newRow("404") << u"/gone.xml"_qs << u"failed"_qs << u"Couldn’t check for updates"_qs
-                             << u"The update server answered with an error (HTTP 404). Try again later."_qs;
+                             << u"The update server answered with an error (HTTP\u00a0404). Try again later."_qs;
         QTest::newRow("not a feed") << u"/page.html"_qs << u"failed"_qs << u"Couldn’t check for updates"_qs
                                     << u"The update server sent something that isn’t an update feed."_qs;
         QTest::newRow("no answer") << u"/silent.xml"_qs << u"failed"_qs << u"Couldn’t check for updates"_qs
@@ -215,7 +215,7 @@ private slots:
         QVERIFY(w);
         Localizer::shared().setLanguage(AppLanguage::ko);
         QCOMPARE(text(w, u"updateHeading"_qs), Localizer::shared().t(LocKey::updateAvailable));
-        QCOMPARE(text(w, u"updateMessage"_qs), Localizer::shared().t(LocKey::updateAvailableFmt, {u"1.1"_qs}) + u' '
+        QCOMPARE(text(w, u"updateMessage"_qs), Localizer::shared().t(LocKey::updateAvailableFmt, {u"1.1"_qs}) + u'\n'
                                                    + Localizer::shared().t(LocKey::youHaveFmt, {u"1.0"_qs}));
     }
 

@@ -232,8 +232,10 @@ private slots:
         QCOMPARE(c.result.outcome, Updater::Outcome::failed);
         QCOMPARE(c.result.failure, failure);
         QCOMPARE(c.result.httpStatus, status);
+        // The loop is cut after a few rounds, not after Qt's default fifty.
         if (path == u"/loop")
-            QVERIFY(server.totalHits() <= Updater::defaultMaxRedirects + 2);
+            QVERIFY2(server.totalHits() <= 2 * (Updater::defaultMaxRedirects + 1),
+                     qPrintable(QString::number(server.totalHits())));
     }
 
     void followsARedirect()

@@ -51,7 +51,8 @@ QString UpdateWindow::failure() const
 
 QString UpdateWindow::errorCode() const
 {
-    return m_result.httpStatus > 0 ? QStringLiteral("HTTP %1").arg(m_result.httpStatus) : QString();
+    // A no-break space: "HTTP" and its number stay on one line.
+    return m_result.httpStatus > 0 ? QStringLiteral("HTTP\u00a0%1").arg(m_result.httpStatus) : QString();
 }
 
 void UpdateWindow::checkNow()

@@ -10,7 +10,8 @@ ApplicationWindow {
     objectName: "updateWindow"
     title: texts.updateTitle
     flags: Qt.Dialog
-    width: 440
+    // Wide enough for the buttons in every language.
+    width: Math.max(440, buttons.implicitWidth + (icon.visible ? icon.width + content.spacing : 0) + 40)
     height: content.implicitHeight + 40
     minimumWidth: width
     maximumWidth: width
@@ -70,6 +71,7 @@ ApplicationWindow {
         spacing: 16
 
         Item {
+            id: icon
             visible: updateCheck.iconSource !== ""
             implicitWidth: 64
             implicitHeight: 64
@@ -112,7 +114,8 @@ ApplicationWindow {
                 visible: !root.checking
                 wrapMode: Text.Wrap
                 text: root.available
-                      ? fmt.fill(texts.updateAvailableFmt, [updateCheck.newVersion]) + " "
+                      // Two lines: a space between sentences is wrong in Chinese and Japanese.
+                      ? fmt.fill(texts.updateAvailableFmt, [updateCheck.newVersion]) + "\n"
                         + fmt.fill(texts.youHaveFmt, [updateCheck.currentVersion])
                       : root.failed ? root.failureText()
                       : fmt.fill(texts.upToDateFmt, [updateCheck.currentVersion])
@@ -141,6 +144,7 @@ ApplicationWindow {
             }
 
             RowLayout {
+                id: buttons
                 Layout.fillWidth: true
                 Layout.topMargin: 6
                 visible: !root.checking
