@@ -111,7 +111,9 @@ private slots:
         QVERIFY(!LoginItem::isEnabled());
 
         LogCapture log;
-        LoginItem::set(true); // the autostart folder does not exist yet
+        // As at the first start after migrating an installation that
+        // launched at login: no autostart folder yet.
+        LoginItem::set(true);
         QVERIFY(LoginItem::isEnabled());
         const QByteArray text = readAll(env.entry());
         QVERIFY(text.startsWith("[Desktop Entry]\n"));
