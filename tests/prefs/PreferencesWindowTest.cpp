@@ -63,6 +63,7 @@ struct Rig {
         prefs.reset();
         updates.reset();
         QmlHost::reset();
+        flushSceneGraph();
     }
 
     QQuickWindow *open()

@@ -81,4 +81,18 @@ inline void choose(QQuickWindow *window, const QString &picker, int index)
     click(window, name);
 }
 
+// The scene graph deletes the textures of a destroyed window's images at the
+// next frame it renders. After the last window of a test is gone, one frame
+// of an empty window lets it do so, so nothing is left for the leak checker.
+inline void flushSceneGraph()
+{
+    QQuickWindow flush;
+    flush.resize(8, 8);
+    flush.show();
+    if (QTest::qWaitForWindowExposed(&flush)) {
+        flush.contentItem()->update();
+        QTest::qWait(20);
+    }
+}
+
 } // namespace QuickDriver

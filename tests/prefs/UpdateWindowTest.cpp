@@ -77,6 +77,7 @@ class UpdateWindowTest : public QObject {
             prefs.reset();
             updates.reset();
             QmlHost::reset();
+            flushSceneGraph();
         }
         void feedAt(const QString &path) { AppSettings::shared().setUpdateFeedURL(server.url(path).toString()); }
 
@@ -204,19 +205,6 @@ private slots:
         click(w, u"dismissButton"_qs);
         QTRY_VERIFY(!w->isVisible());
         QVERIFY(m_browser.opened.isEmpty());
-    }
-
-    void theResultFollowsTheLanguage()
-    {
-        Rig rig;
-        rig.server.serve(u"/appcast.xml"_qs, feed("1.1"));
-        rig.feedAt(u"/appcast.xml"_qs);
-        QQuickWindow *w = rig.checkFromPreferences(u"available"_qs);
-        QVERIFY(w);
-        Localizer::shared().setLanguage(AppLanguage::ko);
-        QCOMPARE(text(w, u"updateHeading"_qs), Localizer::shared().t(LocKey::updateAvailable));
-        QCOMPARE(text(w, u"updateMessage"_qs), Localizer::shared().t(LocKey::updateAvailableFmt, {u"1.1"_qs}) + u'\n'
-                                                   + Localizer::shared().t(LocKey::youHaveFmt, {u"1.0"_qs}));
     }
 
     void automaticChecksSpeakOnlyOfNewerVersions()

@@ -17,8 +17,7 @@ void logFailure(const QString &reason)
 
 QString configHome()
 {
-    // The base directory specification: an unset, empty or relative value
-    // is ignored.
+    // XDG base directories: an unset, empty or relative value is ignored.
     const QString env = qEnvironmentVariable("XDG_CONFIG_HOME");
     if (!env.isEmpty() && QDir::isAbsolutePath(env))
         return env;

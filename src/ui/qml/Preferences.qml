@@ -344,6 +344,8 @@ ApplicationWindow {
                             source: prefs.iconSource
                             sourceSize: Qt.size(88, 88)
                             fillMode: Image.PreserveAspectFit
+                            // Loaded once per window, outside the shared image cache.
+                            cache: false
                             smooth: true
                         }
                     }

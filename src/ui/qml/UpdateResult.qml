@@ -81,6 +81,8 @@ ApplicationWindow {
                 source: updateCheck.iconSource
                 sourceSize: Qt.size(128, 128)
                 fillMode: Image.PreserveAspectFit
+                // Loaded once per window, outside the shared image cache.
+                cache: false
                 smooth: true
             }
         }
