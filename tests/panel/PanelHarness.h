@@ -150,6 +150,7 @@ struct Panel {
         monitor->setPanelVisible(false);
         window->hide();
         QCoreApplication::processEvents();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     }
 
     ~Panel()

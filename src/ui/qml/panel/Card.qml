@@ -15,7 +15,8 @@ Rectangle {
     Item {
         id: inner
         x: 8
-        y: 8
+        // Centred when a row of cards makes this one taller than it needs.
+        y: Math.max(8, (card.height - height) / 2)
         width: card.innerWidth
         height: childrenRect.height
     }

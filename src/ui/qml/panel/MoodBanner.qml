@@ -21,6 +21,8 @@ Item {
         id: bannerModel
         monitor: banner.sys
         onBounce: {
+            if (!banner.live)
+                return
             face.poked = true
             springBack.restart()
         }

@@ -45,6 +45,7 @@ Card {
             maximumLineCount: 1
         }
         ExpandableChart {
+            objectName: "rateChart"
             width: parent.width
             values: cell.history
             color: cell.color

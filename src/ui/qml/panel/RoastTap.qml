@@ -18,4 +18,13 @@ MouseArea {
         id: hand
         objectName: "handCursor"
     }
+
+    // The panel closing under the pointer gives the cursor back at once.
+    Connections {
+        target: monitor
+        function onPanelVisibleChanged() {
+            if (!monitor.panelVisible)
+                hand.hovering = false
+        }
+    }
 }

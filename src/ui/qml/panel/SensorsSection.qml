@@ -14,6 +14,9 @@ Column {
     readonly property bool showGPUCard: gpu.hasUsage || sensors.gpuTemp > 0
     readonly property int cardCount: (showCPUCard ? 1 : 0) + (showGPUCard ? 1 : 0)
     readonly property real cardWidth: cardCount > 0 ? (width - 10 * (cardCount - 1)) / cardCount : 0
+    // Cards side by side share one height.
+    readonly property real cardHeight: Math.max(showCPUCard ? tempCard.implicitHeight : 0,
+                                                showGPUCard ? gpuCard.implicitHeight : 0)
     readonly property real powerWidth: (width - 20) / 3
     // Nothing at all readable: no temperature, no fan, no power, no GPU.
     readonly property bool nothingReadable: sensors.components.length === 0 && !showCPUCard
@@ -40,14 +43,18 @@ Column {
         spacing: 10
         visible: section.cardCount > 0
         TempCard {
+            id: tempCard
             width: section.cardWidth
+            height: section.cardHeight
             visible: section.showCPUCard
             title: "CPU"
             temp: section.sensors.cpuTemp
         }
         GPUCard {
+            id: gpuCard
             objectName: "gpuCard"
             width: section.cardWidth
+            height: section.cardHeight
             visible: section.showGPUCard
             usage: section.gpu.usage
             hasUsage: section.gpu.hasUsage
