@@ -107,15 +107,34 @@ struct Panel {
         settle();
     }
 
+    // By object name, through objects and the item tree (repeated rows are
+    // children of their parent item only).
     template <typename T = QQuickItem>
     T *find(const QString &name) const
     {
-        return root ? root->findChild<T *>(name) : nullptr;
+        if (!root)
+            return nullptr;
+        if (T *found = root->findChild<T *>(name))
+            return found;
+        const QList<QQuickItem *> items = findAll(name);
+        return items.isEmpty() ? nullptr : qobject_cast<T *>(items.first());
     }
 
     QList<QQuickItem *> findAll(const QString &name) const
     {
-        return root ? root->findChildren<QQuickItem *>(name) : QList<QQuickItem *>{};
+        QList<QQuickItem *> out;
+        collect(root, name, out);
+        return out;
+    }
+
+    static void collect(QQuickItem *item, const QString &name, QList<QQuickItem *> &out)
+    {
+        if (!item)
+            return;
+        if (item->objectName() == name)
+            out << item;
+        for (QQuickItem *child : item->childItems())
+            collect(child, name, out);
     }
 
     QPoint scenePoint(QQuickItem *item, QPointF local) const
