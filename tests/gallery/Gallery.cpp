@@ -54,6 +54,13 @@ void countWarnings(QtMsgType type, const QMessageLogContext &context, const QStr
 
 enum class Machine { laptop, desktop };
 
+// A repeatable jitter in 0..1 for tick t and channel k.
+double jitter(int t, int k)
+{
+    const double v = std::sin(t * 12.9898 + k * 78.233) * 43758.5453;
+    return v - std::floor(v);
+}
+
 // The fixture's own readers for what it has, a script for the rest.
 class GallerySamplers : public Samplers {
 public:
@@ -78,7 +85,8 @@ public:
         const double base = m_machine == Machine::laptop ? 0.18 : 0.46;
         double sum = 0;
         for (int i = 0; i < cores; ++i) {
-            const double v = std::clamp(base + 0.3 * std::sin(0.35 * m_t + 1.7 * i) * std::cos(0.11 * m_t + i), 0.0, 1.0);
+            const double v = std::clamp(base + 0.3 * std::sin(0.35 * m_t + 1.7 * i) * std::cos(0.11 * m_t + i)
+                                            + 0.12 * (jitter(m_t, i) - 0.5), 0.0, 1.0);
             s.perCore << v;
             sum += v;
         }
@@ -113,8 +121,10 @@ public:
         if (n.ipv4 == Records::unknownText)
             n.ipv4 = m_machine == Machine::laptop ? u"192.168.1.23"_qs : u"10.0.0.12"_qs;
         const double wave = 0.5 + 0.5 * std::sin(0.23 * m_t);
-        n.downRate = (m_machine == Machine::laptop ? 2.4e6 : 7.5e6) * wave * wave + 40e3;
-        n.upRate = 180e3 * (0.5 + 0.5 * std::cos(0.31 * m_t)) + 12e3;
+        const double burst = m_t % 17 < 5 ? 1.0 : 0.25;
+        n.downRate = (m_machine == Machine::laptop ? 2.4e6 : 7.5e6) * wave * wave * burst * (0.6 + 0.8 * jitter(m_t, 40))
+                     + 40e3 * jitter(m_t, 41);
+        n.upRate = 180e3 * (0.5 + 0.5 * std::cos(0.31 * m_t)) * jitter(m_t, 42) + 12e3;
         n.totalIn = 18.7e9 + m_t * 2e6;
         n.totalOut = 2.3e9 + m_t * 1e5;
         return n;
@@ -124,8 +134,8 @@ public:
     {
         DiskSample d;
         d.hasRate = true;
-        d.readRate = 3.2e6 * std::max(0.0, std::sin(0.4 * m_t)) + 64e3;
-        d.writeRate = 1.1e6 * std::max(0.0, std::cos(0.27 * m_t)) + 20e3;
+        d.readRate = 3.2e6 * std::max(0.0, std::sin(0.4 * m_t)) * jitter(m_t, 50) + 64e3 * jitter(m_t, 51);
+        d.writeRate = (m_t % 11 == 3 ? 9e6 : 0.4e6 * jitter(m_t, 52)) + 20e3;
         if (m_machine == Machine::laptop) {
             d.volumes = {VolumeInfo{u"System"_qs, u"/"_qs, 512e9, 138e9},
                          VolumeInfo{u"Backup"_qs, u"/media/backup"_qs, 1e12, 0.62e12}};
@@ -149,6 +159,8 @@ public:
         QmPowerReading p = m_real.readPower();
         if (p.cpu <= 0) {
             p.cpu = m_machine == Machine::laptop ? 6.2 + std::sin(0.2 * m_t) : 38.5 + 4 * std::sin(0.2 * m_t);
+            if (p.gpu <= 0 && m_machine == Machine::laptop)
+                p.gpu = 0.6;
             p.total = p.cpu + p.gpu + (m_machine == Machine::laptop ? 2.1 : 21.7);
             p.ok = 1;
         }

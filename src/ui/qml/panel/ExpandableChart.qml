@@ -73,14 +73,17 @@ Column {
 
         Item {
             id: captionRow
+            // Too narrow for both on one line: the peak goes under, so that
+            // neither is cut.
+            readonly property bool stacked: lastText.implicitWidth + peakText.implicitWidth + 6 > width
             y: 3
             width: parent.width
-            implicitHeight: peakText.implicitHeight
+            implicitHeight: stacked ? lastText.implicitHeight + peakText.implicitHeight : peakText.implicitHeight
             opacity: Math.max(0, Math.min(1, chart.progress))
 
             Text {
                 id: lastText
-                width: Math.min(implicitWidth, parent.width - peakText.width - 6)
+                width: Math.min(implicitWidth, parent.width)
                 text: texts.last60s
                 color: Theme.tertiary
                 font.pixelSize: 9
@@ -91,7 +94,8 @@ Column {
                 id: peakText
                 objectName: "peak"
                 anchors.right: parent.right
-                width: Math.min(implicitWidth, parent.width * 0.7)
+                y: captionRow.stacked ? lastText.implicitHeight : 0
+                width: Math.min(implicitWidth, parent.width)
                 horizontalAlignment: Text.AlignRight
                 text: fmt.fill(texts.peakFmt, [chart.format(line.peak)])
                 color: Theme.tertiary
