@@ -29,6 +29,10 @@ namespace PanelHarness {
 // Once per test executable, before any window exists.
 inline void setUpRendering()
 {
+    static bool done = false;
+    if (done)
+        return;
+    done = true;
     QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
     QQuickStyle::setStyle(QStringLiteral("Fusion"));
 }

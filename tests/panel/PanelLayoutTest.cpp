@@ -5,6 +5,7 @@
 #include "PanelHarness.h"
 
 #include <QPalette>
+#include <QWheelEvent>
 #include <QSignalSpy>
 
 #include <algorithm>
@@ -172,12 +173,39 @@ private slots:
         QVERIFY(!QGuiApplication::overrideCursor());
     }
 
+    void scrollsByWheelAndBar()
+    {
+        Panel p;
+        p.ordinaryReadings();
+        p.load();
+        auto *scroller = p.find(u"scroller"_qs);
+        const qreal range = scroller->property("contentHeight").toReal() - scroller->height();
+        QVERIFY(range > 100);
+        QQuickItem *bar = p.find(u"scrollIndicator"_qs);
+        QVERIFY(bar->isVisible());
+
+        const QPoint middle = p.scenePoint(scroller, {150, 250});
+        QWheelEvent wheel(middle, p.window->mapToGlobal(middle), {}, {0, -240}, Qt::NoButton, Qt::NoModifier,
+                          Qt::NoScrollPhase, false);
+        QGuiApplication::sendEvent(p.window.get(), &wheel);
+        QTRY_VERIFY(scroller->property("contentY").toReal() > 0);
+        QTRY_COMPARE(bar->opacity(), 1.0);
+
+        // A press at the bottom of the bar's track scrolls to the end.
+        p.click(bar, {bar->width() - 3, bar->height() - 1});
+        QCOMPARE(scroller->property("contentY").toReal(), range);
+        p.click(bar, {bar->width() - 3, 1});
+        QCOMPARE(scroller->property("contentY").toReal(), 0.0);
+    }
+
     void closedPanelDoesNoWork()
     {
         Panel p;
         p.ordinaryReadings();
         p.load();
         QVERIFY(p.find(u"modules"_qs)->property("item").value<QObject *>());
+        // Scrolled just before closing: the bar's fade-out timer is running.
+        p.find(u"scroller"_qs)->setProperty("contentY", 50);
         p.close();
         // The modules are gone; the model's ticks reach only the banner.
         QVERIFY(!p.find(u"modules"_qs)->property("item").value<QObject *>());

@@ -1,5 +1,4 @@
 import QtQuick
-import QtQuick.Controls
 import Sulkbox 1.0
 import "panel"
 
@@ -54,30 +53,39 @@ Item {
             color: Theme.separator
         }
 
-        Flickable {
-            id: scroller
-            objectName: "scroller"
+        // The module column scrolls under a thin bar of its own.
+        Item {
             width: parent.width
             height: 500
-            clip: true
-            contentWidth: width
-            contentHeight: modules.item ? modules.item.height : 0
-            boundsBehavior: Flickable.StopAtBounds
-            onContentHeightChanged: contentY = Math.max(0, Math.min(contentY, contentHeight - height))
 
-            ScrollBar.vertical: ScrollBar {
-                policy: ScrollBar.AsNeeded
+            Flickable {
+                id: scroller
+                objectName: "scroller"
+                width: parent.width
+                height: 500
+                clip: true
+                contentWidth: width
+                contentHeight: modules.item ? modules.item.height : 0
+                boundsBehavior: Flickable.StopAtBounds
+                onContentHeightChanged: contentY = Math.max(0, Math.min(contentY, contentHeight - height))
+
+                Loader {
+                    id: modules
+                    objectName: "modules"
+                    width: scroller.width
+                    active: root.sys.panelVisible
+                    onActiveChanged: if (active) scroller.contentY = 0
+                    sourceComponent: ModuleColumn {
+                        cleanup: memoryCleanup
+                    }
+                }
             }
 
-            Loader {
-                id: modules
-                objectName: "modules"
-                width: scroller.width
-                active: root.sys.panelVisible
-                onActiveChanged: if (active) scroller.contentY = 0
-                sourceComponent: ModuleColumn {
-                    cleanup: memoryCleanup
-                }
+            ScrollIndicator {
+                objectName: "scrollIndicator"
+                anchors.right: parent.right
+                height: parent.height
+                flickable: scroller
             }
         }
 
