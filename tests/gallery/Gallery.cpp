@@ -12,6 +12,7 @@
 #include "l10n/Localizer.h"
 #include "model/SystemMonitor.h"
 #include "personality/Mood.h"
+#include "personality/Roasts.h"
 #include "sampling/LinuxSamplers.h"
 #include "settings/AppSettings.h"
 #include "settings/Settings.h"
@@ -341,6 +342,80 @@ QImage renderCase(const Case &c, AppLanguage lang, const QString &fixtures)
     return sheet;
 }
 
+// Every mood the machine can show, as the banner shows it, in one language:
+// checks every phrase and reason for fit and every face for its glyph.
+QImage moodSheet(AppLanguage lang, const QString &fixtures)
+{
+    QGuiApplication::setPalette(lightPalette());
+    Localizer::shared().setLanguage(lang);
+    AppSettings::shared().setSavageMode(false);
+    AppSettings::shared().setPetName(QString());
+
+    ManualScheduler scheduler;
+    auto samplers = std::make_shared<GallerySamplers>(Machine::laptop, fixtures);
+    SystemMonitor monitor(samplers, scheduler);
+    DesktopActions actions;
+    QQmlEngine engine;
+    DesktopContext::install(engine.rootContext(), &monitor, &AppSettings::shared(), &Localizer::shared(), &actions);
+    QQuickWindow window;
+    QQmlComponent component(&engine, QUrl(u"qrc:/sulkbox/qml/Panel.qml"_qs));
+    std::unique_ptr<QObject> object(component.beginCreate(engine.rootContext()));
+    auto *root = qobject_cast<QQuickItem *>(object.get());
+    if (!root)
+        return {};
+    root->setParentItem(window.contentItem());
+    component.completeCreate();
+    window.resize(300, 700);
+    window.show();
+    auto *banner = root->findChild<QQuickItem *>(u"banner"_qs);
+
+    // The panel stays closed, so nothing fades: each change shows at once.
+    QList<Mood> moods = {Mood::placeholder(), Moods::justWokeUp(), Moods::soHot(92), Moods::runningLow(0.12),
+                         Moods::memoryFull(0.93), Moods::swappingHard(6.4e9), Moods::phew(),
+                         Moods::allCoresBlazing(7, 8), Moods::workingHard(0.86), Moods::dataFeast(12.5e6),
+                         Moods::gobblingData(6.1e6), Moods::beamingUp(2.2e6), Moods::warmingUp(78),
+                         Moods::refueling(0.64), Moods::cruisingLoad(0.35), Moods::cruisingWarmth(62),
+                         Moods::almostPacked(0.93), Moods::sleepy(), Moods::dozingOff(), Moods::allChill(),
+                         Moods::peaceful(), Moods::stopPoking(), Moods::glovesOff(), Moods::beingNice(),
+                         Moods::freshening(), Moods::muchLighter(1.2e9)};
+    const QList<std::pair<QString, LocKey>> holidays = {
+        {u"\U0001F973"_qs, LocKey::holNewYear},   {u"\U0001F970"_qs, LocKey::holValentines},
+        {u"\U0001F383"_qs, LocKey::holHalloween}, {u"\U0001F384"_qs, LocKey::holChristmas},
+        {u"\U0001F9E7"_qs, LocKey::holSpring},    {u"\U0001F96E"_qs, LocKey::holMidAutumn},
+        {u"\U0001F409"_qs, LocKey::holDragonBoat}};
+    for (const auto &[emoji, key] : holidays)
+        moods << Moods::festive(emoji, key, LocKey::holCheer);
+
+    QList<QImage> tiles;
+    for (const Mood &mood : moods) {
+        monitor.setReaction(mood);
+        QCoreApplication::processEvents();
+        const QImage shot = window.grabWindow();
+        const int h = int(std::ceil(banner->parentItem()->height()));
+        tiles << shot.copy(0, 0, 300, h);
+    }
+    // The savage smirk, during a roast.
+    AppSettings::shared().setSavageMode(true);
+    monitor.roast(RoastTopic::cpu);
+    QCoreApplication::processEvents();
+    tiles << window.grabWindow().copy(0, 0, 300, int(std::ceil(banner->parentItem()->height())));
+    AppSettings::shared().setSavageMode(false);
+
+    const int columns = 2;
+    const int rows = int((tiles.size() + columns - 1) / columns);
+    int tileHeight = 0;
+    for (const QImage &t : tiles)
+        tileHeight = std::max(tileHeight, t.height());
+    QImage sheet(columns * 300 + (columns - 1) * 4, rows * (tileHeight + 4), QImage::Format_RGB32);
+    sheet.fill(QColor(0xd0, 0xd0, 0xd0));
+    QPainter p(&sheet);
+    for (int i = 0; i < tiles.size(); ++i)
+        p.drawImage((i % columns) * 304, (i / columns) * (tileHeight + 4), tiles[i]);
+    p.end();
+    object.reset();
+    return sheet;
+}
+
 // Every icon at the sizes the panel uses and at 32 px, light and dark.
 QImage iconSheet()
 {
@@ -398,6 +473,11 @@ int main(int argc, char **argv)
             }
             ++written;
         }
+    }
+    for (AppLanguage lang : concreteLanguages()) {
+        if (!moodSheet(lang, fixtures).save(out + u"/moods-"_qs + languageRawText(lang) + u".png"_qs))
+            return 1;
+        ++written;
     }
     iconSheet().save(out + u"/icons.png"_qs);
     std::printf("%d pictures in %s, %d warnings\n", written + 1, qPrintable(out), warnings);
