@@ -1,7 +1,7 @@
 // The preferences window, clicked like a user clicks it: every control
-// writes its setting at once and the model, the top-bar label and the
-// settings the panel watches follow; the launch-at-login switch shows the
-// real autostart entry; the About row and the update button.
+// writes its setting at once and the model, the top-bar label and the panel
+// follow; the launch-at-login switch shows the real autostart entry; the
+// About row and the update button.
 
 #include "FeedServer.h"
 #include "QuickDriver.h"
@@ -27,6 +27,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QNetworkProxy>
+#include <QQmlComponent>
 #include <QQuickWindow>
 #include <QSignalSpy>
 #include <QTest>
@@ -342,15 +343,33 @@ private slots:
             {u"showProcessesSwitch"_qs, Settings::Key::showProcesses}, {u"showNetworkSwitch"_qs, Settings::Key::showNetwork},
             {u"showDiskSwitch"_qs, Settings::Key::showDisk},       {u"showSensorsSwitch"_qs, Settings::Key::showSensors},
         };
+        // The real panel on the same engine, as the desktop process shows it.
+        QQmlComponent component(&QmlHost::engine(), QUrl(u"qrc:/sulkbox/qml/Panel.qml"_qs));
+        std::unique_ptr<QObject> panelObject(component.create());
+        QVERIFY2(panelObject, qPrintable(component.errorString()));
+        QQuickWindow panelWindow;
+        auto *panel = qobject_cast<QQuickItem *>(panelObject.get());
+        panel->setParentItem(panelWindow.contentItem());
+        rig.monitor->setPanelVisible(true); // as its window does on opening
+        const QStringList sections = {u"cpuModule"_qs, u"memoryModule"_qs, u"processesModule"_qs,
+                                      u"networkModule"_qs, u"diskModule"_qs, u"sensorsModule"_qs};
+        const auto sectionShown = [&](int i) {
+            QList<QQuickItem *> found;
+            collect(panel, [&](QQuickItem *item) { return item->objectName() == sections[i]; }, found);
+            return !found.isEmpty() && found.first()->property("active").toBool();
+        };
+
         QSignalSpy changed(&AppSettings::shared(), &AppSettings::changed);
         for (int i = 0; i < modules.size(); ++i) {
             changed.clear();
             click(w, modules[i].first);
-            // Exactly this module's key, announced to whoever shows the panel.
+            // Exactly this module's key; the panel drops exactly that section.
             QCOMPARE(changed.size(), 1);
             QCOMPARE(changed.first().first().value<Settings::Key>(), modules[i].second);
-            for (int j = 0; j < modules.size(); ++j)
+            for (int j = 0; j < modules.size(); ++j) {
                 QCOMPARE(Settings::flag(modules[j].second), j > i);
+                QCOMPARE(sectionShown(j), j > i);
+            }
         }
         for (const auto &m : modules)
             QVERIFY(!checkedOf(w, m.first));
@@ -358,6 +377,8 @@ private slots:
         // switches follow even after they were clicked.
         AppSettings::shared().setShowDisk(true);
         QVERIFY(checkedOf(w, u"showDiskSwitch"_qs));
+        QVERIFY(sectionShown(4));
+        panelObject.reset();
     }
 
     void launchAtLoginShowsTheRealEntry()
