@@ -134,6 +134,8 @@ constexpr const char16_t *englishTexts[locKeyCount] = {
     u"happy mid-autumn", // holMidAutumn
     u"let’s celebrate", // holCheer
     u"", // empty
+    u"Open panel", // openPanel
+    u"Preferences…", // openPreferences
 };
 
 } // namespace

@@ -141,6 +141,9 @@ enum class LocKey {
     holMidAutumn,
     holCheer,
     empty,
+    // The tray item's menu.
+    openPanel,
+    openPreferences,
 };
 Q_ENUM_NS(LocKey)
 
@@ -148,7 +151,7 @@ Q_ENUM_NS(LocKey)
 
 using LocKey = LocKeys::LocKey;
 
-inline constexpr int locKeyCount = 128;
+inline constexpr int locKeyCount = 130;
 
 // All keys in their declared order.
 const std::array<LocKey, locKeyCount> &allLocKeys();

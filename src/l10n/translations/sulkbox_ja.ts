@@ -623,5 +623,15 @@
         <source>let’s celebrate</source>
         <translation>お祝いしよう</translation>
     </message>
+    <message>
+        <extracomment>openPanel</extracomment>
+        <source>Open panel</source>
+        <translation>パネルを開く</translation>
+    </message>
+    <message>
+        <extracomment>openPreferences</extracomment>
+        <source>Preferences…</source>
+        <translation>設定…</translation>
+    </message>
 </context>
 </TS>

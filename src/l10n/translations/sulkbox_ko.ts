@@ -623,5 +623,15 @@
         <source>let’s celebrate</source>
         <translation>다 같이 축하하자</translation>
     </message>
+    <message>
+        <extracomment>openPanel</extracomment>
+        <source>Open panel</source>
+        <translation>패널 열기</translation>
+    </message>
+    <message>
+        <extracomment>openPreferences</extracomment>
+        <source>Preferences…</source>
+        <translation>환경설정…</translation>
+    </message>
 </context>
 </TS>

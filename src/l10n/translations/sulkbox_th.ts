@@ -623,5 +623,15 @@
         <source>let’s celebrate</source>
         <translation>มาฉลองกัน</translation>
     </message>
+    <message>
+        <extracomment>openPanel</extracomment>
+        <source>Open panel</source>
+        <translation>เปิดแผง</translation>
+    </message>
+    <message>
+        <extracomment>openPreferences</extracomment>
+        <source>Preferences…</source>
+        <translation>การตั้งค่า…</translation>
+    </message>
 </context>
 </TS>

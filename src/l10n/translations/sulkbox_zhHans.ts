@@ -623,5 +623,15 @@
         <source>let’s celebrate</source>
         <translation>一起庆祝吧</translation>
     </message>
+    <message>
+        <extracomment>openPanel</extracomment>
+        <source>Open panel</source>
+        <translation>打开面板</translation>
+    </message>
+    <message>
+        <extracomment>openPreferences</extracomment>
+        <source>Preferences…</source>
+        <translation>偏好设置…</translation>
+    </message>
 </context>
 </TS>

@@ -623,5 +623,15 @@
         <source>let’s celebrate</source>
         <translation>一起慶祝吧</translation>
     </message>
+    <message>
+        <extracomment>openPanel</extracomment>
+        <source>Open panel</source>
+        <translation>打開面板</translation>
+    </message>
+    <message>
+        <extracomment>openPreferences</extracomment>
+        <source>Preferences…</source>
+        <translation>偏好設定…</translation>
+    </message>
 </context>
 </TS>
