@@ -4,6 +4,7 @@
 
 #include <QFile>
 #include <QStandardPaths>
+#include <QTemporaryDir>
 
 #include <cstdio>
 #include <sys/stat.h>
@@ -54,7 +55,42 @@ std::optional<QVariantMap> readLegacy(const QString &path)
         return std::nullopt;
     }
 
-    const QSettings legacy(path, QSettings::IniFormat);
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return std::nullopt;
+    const QByteArray raw = file.read(maxLegacySize);
+
+    // QSettings stops making sense of a file at its first broken line (an
+    // unclosed group swallows the rest). Only well-formed lines go on, so a
+    // damaged file still gives every setting that survived.
+    QByteArray clean;
+    for (QByteArray line : raw.split('\n')) {
+        if (line.endsWith('\r'))
+            line.chop(1);
+        const QByteArray trimmed = line.trimmed();
+        if (trimmed.isEmpty() || line.contains('\0'))
+            continue;
+        const bool group = trimmed.startsWith('[') && trimmed.endsWith(']') && trimmed.size() > 2;
+        const qsizetype eq = line.indexOf('=');
+        qsizetype backslashes = 0;
+        while (backslashes < trimmed.size() && trimmed.at(trimmed.size() - 1 - backslashes) == '\\')
+            ++backslashes;
+        // An odd trailing backslash would join the next line to this one.
+        const bool entry = eq > 0 && !line.left(eq).trimmed().isEmpty() && !trimmed.startsWith('[')
+            && backslashes % 2 == 0;
+        if (group || entry)
+            clean += line + '\n';
+    }
+    QTemporaryDir scratch;
+    if (!scratch.isValid())
+        return std::nullopt;
+    const QString copy = scratch.filePath(QStringLiteral("legacy.conf"));
+    QFile out(copy);
+    if (!out.open(QIODevice::WriteOnly) || out.write(clean) != clean.size())
+        return std::nullopt;
+    out.close();
+
+    const QSettings legacy(copy, QSettings::IniFormat);
     QVariantMap map;
     for (const QString &key : legacy.allKeys()) {
         const QVariant value = legacy.value(key);

@@ -177,7 +177,6 @@ void PanelWindow::show(Style style)
     // The model hears of it first, so the panel opens on fresh figures.
     setOpen(true);
     m_window->show();
-    m_window->raise();
     m_window->requestActivate();
 }
 
