@@ -2,6 +2,7 @@
 
 #include <QDBusAbstractAdaptor>
 #include <QDBusConnectionInterface>
+#include <QDBusContext>
 #include <QDBusVariant>
 
 namespace {
@@ -29,10 +30,13 @@ public:
     int protocolVersion() const { return 0; }
 
 public slots:
+    // An item names itself by bus name, or by object path on the calling
+    // connection; watchers list the latter as "<sender><path>".
     void RegisterStatusNotifierItem(const QString &service)
     {
-        m_watcher->registerItem(service);
-        emit StatusNotifierItemRegistered(service);
+        const QString item = service.startsWith(u'/') ? m_watcher->callerName() + service : service;
+        m_watcher->registerItem(item);
+        emit StatusNotifierItemRegistered(item);
     }
     void RegisterStatusNotifierHost(const QString &service) { Q_UNUSED(service); }
 
@@ -62,6 +66,11 @@ FakeWatcher::~FakeWatcher()
 {
     m_bus.unregisterObject(QStringLiteral("/StatusNotifierWatcher"));
     QDBusConnection::disconnectFromBus(m_name);
+}
+
+QString FakeWatcher::callerName() const
+{
+    return calledFromDBus() ? message().service() : QString();
 }
 
 void FakeWatcher::registerItem(const QString &service)

@@ -5,12 +5,13 @@
 // it drops the connection, so the name goes away as when a shell exits.
 
 #include <QDBusConnection>
+#include <QDBusContext>
 #include <QDBusMessage>
 #include <QObject>
 #include <QStringList>
 #include <QVariant>
 
-class FakeWatcher : public QObject {
+class FakeWatcher : public QObject, protected QDBusContext {
     Q_OBJECT
 public:
     explicit FakeWatcher(bool withHost = true);
@@ -19,7 +20,8 @@ public:
     bool owned() const { return m_owned; }
     QDBusConnection bus() const { return m_bus; }
 
-    // Items that registered, in order (a service may come more than once).
+    // Items that registered, in order (a service may come more than once):
+    // a bus name, or "<unique name></path>" for an item that gave its path.
     QStringList registrations;
     bool hostRegistered = true;
 
@@ -40,6 +42,8 @@ public:
 
     // The watcher's side of the protocol.
     void registerItem(const QString &service);
+    // The unique bus name of the connection calling now.
+    QString callerName() const;
 
 signals:
     void itemRegistered(const QString &service);

@@ -90,7 +90,8 @@ private slots:
         ManualScheduler scheduler;
         DesktopApp app(options(scheduler));
         QTRY_VERIFY(app.item().hostPresent());
-        QTRY_COMPARE(watcher.registrations, QStringList{app.item().serviceName()});
+        QTRY_COMPARE(watcher.registrations,
+                     QStringList{QDBusConnection::sessionBus().baseService() + u"/StatusNotifierItem"_qs});
         QSignalSpy visible(&app.monitor(), &SystemMonitor::panelVisibleChanged);
         // Nothing of QML exists until the panel first opens.
         QVERIFY(!QmlHost::exists());

@@ -41,6 +41,11 @@ struct Rig {
                                                     QDBusConnection::sessionBus());
     }
     QString service() const { return item->serviceName(); }
+    // How a watcher lists the item: its connection and object path.
+    QString registration() const
+    {
+        return QDBusConnection::sessionBus().baseService() + itemPath;
+    }
 };
 
 template <typename T>
@@ -118,7 +123,7 @@ private slots:
 
         auto first = std::make_unique<FakeWatcher>();
         QVERIFY(first->owned());
-        QTRY_COMPARE(first->registrations, QStringList{rig.service()});
+        QTRY_COMPARE(first->registrations, QStringList{rig.registration()});
         QTRY_VERIFY(rig.item->hostPresent());
         QCOMPARE(first->property(rig.service(), itemPath, itemInterface, QStringLiteral("Id")).toString(),
                  QStringLiteral("sulkbox"));
@@ -136,7 +141,7 @@ private slots:
         QVERIFY(!rig.item->hostPresent());
         FakeWatcher second;
         QVERIFY(second.owned());
-        QTRY_COMPARE(second.registrations, QStringList{rig.service()});
+        QTRY_COMPARE(second.registrations, QStringList{rig.registration()});
         QTRY_VERIFY(rig.item->hostPresent());
     }
 

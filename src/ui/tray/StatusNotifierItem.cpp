@@ -197,7 +197,12 @@ void StatusNotifierItem::watcherAppeared()
     setHostDrawsLabels(drawsLabels(watcherProcessName()));
     QDBusMessage call = QDBusMessage::createMethodCall(watcherService, watcherPath, watcherInterface,
                                                        QStringLiteral("RegisterStatusNotifierItem"));
-    call << m_serviceName;
+    // Registered by object path (the watcher takes the caller's connection
+    // with it), as every watcher accepts. Registered by bus name instead,
+    // GNOME's AppIndicator extension follows the name with a second watch
+    // whose first report can land while it sets the item up, and then drops
+    // the item from the bar a second later.
+    call << objectPath;
     auto *pending = new QDBusPendingCallWatcher(m_bus.asyncCall(call), this);
     connect(pending, &QDBusPendingCallWatcher::finished, this, [this](QDBusPendingCallWatcher *w) {
         w->deleteLater();
@@ -277,7 +282,7 @@ void StatusNotifierItem::refresh()
 bool StatusNotifierItem::updatePixmaps()
 {
     // A host that draws the label gets a blank icon: the label holds the
-    // emoji already, and a host shows no item without any icon.
+    // emoji already, and without any icon GNOME's extension draws "•••".
     const QString key = m_hostDrawsLabels ? QString() : m_shown.iconKey;
     if (key == m_pixmapsKey && !m_pixmaps.isEmpty())
         return false;

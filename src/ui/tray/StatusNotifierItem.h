@@ -1,8 +1,9 @@
 #pragma once
 // The tray item: an org.kde.StatusNotifierItem on the session bus under the
 // name org.kde.StatusNotifierItem-<pid>-1, object /StatusNotifierItem, with a
-// com.canonical.dbusmenu menu at /MenuBar. It registers with the
-// org.kde.StatusNotifierWatcher now and every time a watcher comes back.
+// com.canonical.dbusmenu menu at /MenuBar. It registers (by its object
+// path) with the org.kde.StatusNotifierWatcher now and every time a watcher
+// comes back.
 //
 // Hosts that draw labels show XAyatanaLabel (the mood, or the two loads);
 // the others show the icon (the shown mood's emoji, or the two loads drawn
