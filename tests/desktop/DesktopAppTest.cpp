@@ -10,12 +10,12 @@
 
 #include "app/DesktopLauncher.h"
 #include "app/desktop/DesktopApp.h"
+#include "app/desktop/QuickFace.h"
 #include "app/desktop/SingleInstance.h"
 #include "l10n/Localizer.h"
 #include "model/SystemMonitor.h"
 #include "settings/Settings.h"
 #include "ui/common/QmlHost.h"
-#include "ui/tray/PanelWindow.h"
 #include "ui/tray/StatusNotifierItem.h"
 
 #include <QDBusVariant>
@@ -93,21 +93,22 @@ private slots:
         QTRY_COMPARE(watcher.registrations,
                      QStringList{QDBusConnection::sessionBus().baseService() + u"/StatusNotifierItem"_qs});
         QSignalSpy visible(&app.monitor(), &SystemMonitor::panelVisibleChanged);
-        // Nothing of QML exists until the panel first opens.
+        // Nothing of Qt Quick is loaded until the panel first opens.
+        QVERIFY(!app.quickFaceLoaded());
         QVERIFY(!QmlHost::exists());
-        QVERIFY(!app.panel().window());
 
         const QString item = app.item().serviceName();
         const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
         const QPoint click(screen.center().x(), screen.top() + 10);
         watcher.call(item, itemPath, itemInterface, u"Activate"_qs, {click.x(), click.y()});
-        QTRY_VERIFY(app.panel().isOpen());
+        QTRY_VERIFY(app.quickFaceLoaded() && app.quickFace()->panelOpen());
+        QuickFace &face = *app.quickFace();
         QCOMPARE(visible.size(), 1);
         QVERIFY(app.monitor().panelVisible());
         QVERIFY(QmlHost::exists());
         QQmlEngine *engine = &QmlHost::engine();
 
-        QWindow *window = app.panel().window();
+        QWindow *window = face.panelWindow();
         QVERIFY(window->isVisible());
         QCOMPARE(window->width(), 300);
         QVERIFY(window->height() > 50);
@@ -121,18 +122,18 @@ private slots:
 
         // A second click closes it.
         watcher.call(item, itemPath, itemInterface, u"Activate"_qs, {click.x(), click.y()});
-        QTRY_VERIFY(!app.panel().isOpen());
+        QTRY_VERIFY(!face.panelOpen());
         QCOMPARE(visible.size(), 2);
         QVERIFY(!app.monitor().panelVisible());
         QVERIFY(!window->isVisible());
 
         // Reopened: the same engine; Escape closes it.
         watcher.call(item, itemPath, itemInterface, u"Activate"_qs, {click.x(), click.y()});
-        QTRY_VERIFY(app.panel().isOpen());
+        QTRY_VERIFY(face.panelOpen());
         QCOMPARE(&QmlHost::engine(), engine);
         QVERIFY(QTest::qWaitForWindowActive(window));
         QTest::keyClick(window, Qt::Key_Escape);
-        QVERIFY(!app.panel().isOpen());
+        QVERIFY(!face.panelOpen());
         QCOMPARE(visible.size(), 4);
         QCOMPARE(app.monitor().panelVisible(), false);
     }
@@ -144,25 +145,26 @@ private slots:
         DesktopApp app(options(scheduler));
         QTRY_VERIFY(app.item().hostPresent());
         QSignalSpy visible(&app.monitor(), &SystemMonitor::panelVisibleChanged);
+        QuickFace &face = *app.quickFace();
 
-        app.panel().toggle(QPoint(400, 10));
-        QVERIFY(app.panel().isOpen());
-        QVERIFY(QTest::qWaitForWindowActive(app.panel().window()));
+        face.togglePanel(QPoint(400, 10));
+        QVERIFY(face.panelOpen());
+        QVERIFY(QTest::qWaitForWindowActive(face.panelWindow()));
 
         // A click elsewhere: another window takes the focus.
         QWindow other;
         other.resize(100, 100);
         other.show();
         other.requestActivate();
-        QTRY_VERIFY(!app.panel().isOpen());
+        QTRY_VERIFY(!face.panelOpen());
         QCOMPARE(visible.size(), 2);
         // That click was on the item itself: its activation follows at once
         // and must not open the panel again.
-        app.panel().toggle(QPoint(400, 10));
-        QVERIFY(!app.panel().isOpen());
+        face.togglePanel(QPoint(400, 10));
+        QVERIFY(!face.panelOpen());
         // A later click opens it.
-        app.panel().toggle(QPoint(400, 10));
-        QVERIFY(app.panel().isOpen());
+        face.togglePanel(QPoint(400, 10));
+        QVERIFY(face.panelOpen());
         QCOMPARE(visible.size(), 3);
     }
 
@@ -175,8 +177,8 @@ private slots:
         const QVariant noData = QVariant::fromValue(QDBusVariant(0));
         watcher.call(app.item().serviceName(), u"/MenuBar"_qs, u"com.canonical.dbusmenu"_qs, u"Event"_qs,
                      {1, u"clicked"_qs, noData, 0u});
-        QTRY_VERIFY(app.panel().isOpen());
-        QCOMPARE(app.panel().style(), PanelWindow::Style::dropDown);
+        QTRY_VERIFY(app.quickFaceLoaded() && app.quickFace()->panelOpen());
+        QVERIFY(!app.quickFace()->panelIsWindow());
         QVERIFY(app.monitor().panelVisible());
     }
 
@@ -187,18 +189,19 @@ private slots:
         QSignalSpy missing(&app, &DesktopApp::trayHostMissing);
         QTRY_COMPARE(missing.size(), 1);
         QVERIFY(app.withoutTrayHost());
-        QVERIFY(app.panel().isOpen());
-        QCOMPARE(app.panel().style(), PanelWindow::Style::window);
-        QWindow *window = app.panel().window();
+        QuickFace &face = *app.quickFace();
+        QVERIFY(face.panelOpen());
+        QVERIFY(face.panelIsWindow());
+        QWindow *window = face.panelWindow();
         QCOMPARE(window->flags() & Qt::WindowType_Mask, Qt::Window);
         QVERIFY(!window->flags().testFlag(Qt::FramelessWindowHint));
         QVERIFY(app.monitor().panelVisible());
 
         // Closing it from its title bar tells the model once.
         QSignalSpy visible(&app.monitor(), &SystemMonitor::panelVisibleChanged);
-        QSignalSpy closedByUser(&app.panel(), &PanelWindow::windowClosedByUser);
+        QSignalSpy closedByUser(&face, &QuickFace::panelWindowClosedByUser);
         window->close();
-        QTRY_VERIFY(!app.panel().isOpen());
+        QTRY_VERIFY(!face.panelOpen());
         QCOMPARE(visible.size(), 1);
         QCOMPARE(closedByUser.size(), 1);
 
@@ -207,7 +210,8 @@ private slots:
         QTRY_VERIFY(app.item().hostPresent());
         QVERIFY(!app.withoutTrayHost());
         app.openPanel();
-        QCOMPARE(app.panel().style(), PanelWindow::Style::dropDown);
+        QVERIFY(face.panelOpen());
+        QVERIFY(!face.panelIsWindow());
     }
 
     // `sulkbox` started while this process runs the desktop face.
@@ -228,7 +232,7 @@ private slots:
         QCOMPARE(second.exitStatus(), QProcess::NormalExit);
         QCOMPARE(second.exitCode(), 0);
         QCOMPARE(errorLines(second), QStringList());
-        QTRY_VERIFY(app.panel().isOpen());
+        QTRY_VERIFY(app.quickFaceLoaded() && app.quickFace()->panelOpen());
         QVERIFY(app.monitor().panelVisible());
     }
 

@@ -1,14 +1,12 @@
 #include "app/desktop/DesktopApp.h"
 
 #include "app/desktop/PreferencesMigration.h"
+#include "app/desktop/QuickFace.h"
 #include "l10n/Localizer.h"
 #include "model/Scheduler.h"
 #include "model/SystemMonitor.h"
 #include "sampling/LinuxSamplers.h"
 #include "settings/AppSettings.h"
-#include "ui/common/DesktopActions.h"
-#include "ui/common/QmlHost.h"
-#include "ui/tray/PanelWindow.h"
 #include "ui/tray/StatusNotifierItem.h"
 
 #include <QCoreApplication>
@@ -36,24 +34,9 @@ DesktopApp::DesktopApp(Options options, QObject *parent)
     // 4. The localizer.
     m_loc = &Localizer::shared();
 
-    m_actions = new DesktopActions(this);
-    connect(m_actions, &DesktopActions::preferencesRequested, this, &DesktopApp::openPreferences);
-    connect(m_actions, &DesktopActions::systemMonitorRequested, this, &DesktopApp::openSystemMonitor);
-    connect(m_actions, &DesktopActions::quitRequested, this, &DesktopApp::quit);
-    QmlHost::configure(m_monitor.get(), m_settings, m_loc, m_actions);
-
-    m_panel = new PanelWindow(*m_monitor, this);
-    m_panel->setSource(m_options.panelSource);
-    connect(m_actions, &DesktopActions::panelCloseRequested, m_panel, &PanelWindow::close);
-    connect(m_panel, &PanelWindow::windowClosedByUser, this, [this] {
-        // Without a tray item nothing would be left to reach the monitor by.
-        if (!m_item->hostPresent())
-            quit();
-    });
-
     // 5. The tray item.
     m_item = new StatusNotifierItem(*m_monitor, *m_loc, *m_settings, m_options.bus, this);
-    connect(m_item, &StatusNotifierItem::activated, m_panel, &PanelWindow::toggle);
+    connect(m_item, &StatusNotifierItem::activated, this, &DesktopApp::toggle);
     connect(&m_item->menu(), &DBusMenu::triggered, this, [this](DBusMenu::Action action) {
         switch (action) {
         case DBusMenu::Action::openPanel:
@@ -78,10 +61,31 @@ DesktopApp::DesktopApp(Options options, QObject *parent)
 
 DesktopApp::~DesktopApp()
 {
-    // The window and the item go before the model they read.
+    // The windows and the item go before the model they read.
     delete m_item;
-    delete m_panel;
-    QmlHost::reset();
+    delete m_face;
+}
+
+QuickFace *DesktopApp::quickFace()
+{
+    if (m_face || m_faceFailed)
+        return m_face;
+    QString error;
+    m_face = QuickFaceLoader::load({m_monitor.get(), m_settings, m_loc, m_options.panelSource}, this, &error);
+    if (!m_face) {
+        m_faceFailed = true;
+        std::fprintf(stderr, "sulkbox: the panel cannot be shown: %s\n", qPrintable(error));
+        return nullptr;
+    }
+    connect(m_face, &QuickFace::preferencesRequested, this, &DesktopApp::openPreferences);
+    connect(m_face, &QuickFace::systemMonitorRequested, this, &DesktopApp::openSystemMonitor);
+    connect(m_face, &QuickFace::quitRequested, this, &DesktopApp::quit);
+    connect(m_face, &QuickFace::panelWindowClosedByUser, this, [this] {
+        // Without a tray item nothing would be left to reach the monitor by.
+        if (!m_item->hostPresent())
+            quit();
+    });
+    return m_face;
 }
 
 void DesktopApp::checkForHost()
@@ -92,20 +96,31 @@ void DesktopApp::checkForHost()
     std::fprintf(stderr, "sulkbox: no tray host is running, so the panel opens as a window; "
                          "on GNOME, the AppIndicator extension (gnome-shell-extension-appindicator) provides one\n");
     emit trayHostMissing();
-    m_panel->openAsWindow();
+    if (QuickFace *face = quickFace())
+        face->openPanelAsWindow();
+}
+
+void DesktopApp::toggle(QPoint at)
+{
+    if (QuickFace *face = quickFace())
+        face->togglePanel(at);
 }
 
 void DesktopApp::openPanel()
 {
+    QuickFace *face = quickFace();
+    if (!face)
+        return;
     if (m_withoutHost)
-        m_panel->openAsWindow();
+        face->openPanelAsWindow();
     else
-        m_panel->openAtPointer();
+        face->openPanelAtPointer();
 }
 
 void DesktopApp::quit()
 {
-    m_panel->close();
+    if (m_face)
+        m_face->closePanel();
     QCoreApplication::quit();
 }
 

@@ -2,7 +2,8 @@
 // The desktop face: one process with the model, the tray item and the panel
 // window, living until Quit. Start-up runs in this order: the settings
 // migration, the model (which samples and starts its timer), the update
-// controller, the localizer, then the tray item.
+// controller, the localizer, then the tray item. The Qt Quick half (the
+// panel and preferences windows) is loaded on its first opening.
 
 #include "model/Samplers.h"
 
@@ -14,9 +15,8 @@
 #include <memory>
 
 class AppSettings;
-class DesktopActions;
 class Localizer;
-class PanelWindow;
+class QuickFace;
 class Scheduler;
 class StatusNotifierItem;
 class SystemMonitor;
@@ -62,8 +62,10 @@ public:
 
     SystemMonitor &monitor() { return *m_monitor; }
     StatusNotifierItem &item() { return *m_item; }
-    PanelWindow &panel() { return *m_panel; }
-    DesktopActions &actions() { return *m_actions; }
+    // The Qt Quick half, loaded now if it is not yet; null when it cannot be.
+    QuickFace *quickFace();
+    // Whether it has been loaded.
+    bool quickFaceLoaded() const { return m_face != nullptr; }
     // No tray host answered at start-up; the panel is an ordinary window.
     bool withoutTrayHost() const { return m_withoutHost; }
 
@@ -73,13 +75,14 @@ signals:
 
 private:
     void checkForHost();
+    void toggle(QPoint at);
 
     Options m_options;
     std::unique_ptr<SystemMonitor> m_monitor;
     Localizer *m_loc = nullptr;
     AppSettings *m_settings = nullptr;
-    DesktopActions *m_actions = nullptr;
-    PanelWindow *m_panel = nullptr;
+    QuickFace *m_face = nullptr;
     StatusNotifierItem *m_item = nullptr;
     bool m_withoutHost = false;
+    bool m_faceFailed = false;
 };

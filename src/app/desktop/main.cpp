@@ -7,8 +7,6 @@
 #include <QDBusConnection>
 #include <QDBusConnectionInterface>
 #include <QGuiApplication>
-#include <QQuickStyle>
-#include <QQuickWindow>
 
 #include <cstdio>
 
@@ -44,11 +42,6 @@ int main(int argc, char **argv)
         if (x11)
             qputenv("QT_QPA_PLATFORM", "xcb");
     }
-
-    // The software renderer draws colour emoji, CJK and Thai correctly and
-    // costs far less memory than OpenGL.
-    QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
-    QQuickStyle::setStyle(QStringLiteral("Fusion"));
 
     QGuiApplication app(argc, argv);
     app.setQuitOnLastWindowClosed(false);

@@ -4,7 +4,7 @@
 #include "l10n/Localizer.h"
 #include "model/SystemMonitor.h"
 #include "ui/MenuBarLabel.h"
-#include "ui/common/QmlFormat.h"
+#include "ui/common/LoadColor.h"
 
 #include <QFont>
 #include <QFontMetricsF>
