@@ -50,15 +50,15 @@ fi
 # --- inside the private session -------------------------------------------------
 BUILD=$2
 BASELINE=${3:-}
-hz=$(getconf CLK_TCK)
 
 rss_kb() { awk '/^VmRSS:/ {print $2}' "/proc/$1/status"; }
 hwm_kb() { awk '/^VmHWM:/ {print $2}' "/proc/$1/status"; }
-cpu_ticks() { awk '{print $14 + $15}' "/proc/$1/stat"; }
+# CPU time of all the process's threads so far, in nanoseconds.
+cpu_ns() { cat /proc/"$1"/task/*/schedstat | awk '{sum += $1} END {printf "%.0f", sum}'; }
 mb() { awk -v kb="$1" 'BEGIN {printf "%.1f MB", kb / 1024}'; }
-# CPU share of one core over the measured time, from two tick counts.
-share() { awk -v a="$1" -v b="$2" -v hz="$hz" -v s="$SECONDS_MEASURED" \
-    'BEGIN {printf "%.3f %% of one core (%.2f s CPU in %d s)", (b - a) / hz / s * 100, (b - a) / hz, s}'; }
+# CPU share of one core over the measured time, from two readings.
+share() { awk -v a="$1" -v b="$2" -v s="$SECONDS_MEASURED" \
+    'BEGIN {printf "%.3f %% of one core (%.1f ms CPU in %d s)", (b - a) / 1e9 / s * 100, (b - a) / 1e6, s}'; }
 qt_libs() { awk '{print $6}' "/proc/$1/maps" | grep -E 'libQt6|libicu' | xargs -n1 basename | sort -u | tr '\n' ' '; }
 
 "$BUILD/tests/traywatcher" >/dev/null &
@@ -77,9 +77,9 @@ item="org.kde.StatusNotifierItem-$PID-1"
 echo "resident, panel never opened:      $(mb "$(rss_kb "$PID")")"
 echo "libraries:                         $(qt_libs "$PID")"
 
-t0=$(cpu_ticks "$PID")
+t0=$(cpu_ns "$PID")
 sleep "$SECONDS_MEASURED"
-t1=$(cpu_ticks "$PID")
+t1=$(cpu_ns "$PID")
 echo "CPU, panel hidden, 1 s interval:   $(share "$t0" "$t1")"
 
 activate() {
@@ -102,9 +102,9 @@ bar() {
     local pid=$!
     sleep 1
     local a b
-    a=$(cpu_ticks "$pid")
+    a=$(cpu_ns "$pid")
     sleep "$SECONDS_MEASURED"
-    b=$(cpu_ticks "$pid")
+    b=$(cpu_ns "$pid")
     echo "== sulkbox bar ($label)"
     echo "maximum resident:                  $(mb "$(hwm_kb "$pid")")"
     echo "CPU, 1 s interval:                 $(share "$a" "$b")"
