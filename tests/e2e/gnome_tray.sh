@@ -4,7 +4,7 @@
 # bar, double-clicks it, checks the panel window hangs below the bar at 300
 # px, closes it with Escape and with the item, and quits through the menu.
 # Screenshots go to OUT: bar.png, bar-item.png (enlarged), panel-open.png,
-# panel.png.
+# panel.png, bar-numbers.png (numbers mode, enlarged).
 #
 #   gnome_tray.sh SULKBOX SCREENTOOL OUT
 # Exit status 77 (skipped) where GNOME Shell or the extension is missing.
@@ -152,6 +152,21 @@ if ((inside)); then
     sleep 1.5
     panel_closed || fail "the panel came back after the closing click"
     say "the item's second double click closed it"
+
+    # Numbers mode, as the preferences would set it: the label shows the
+    # two loads at once.
+    mkdir -p "$XDG_CONFIG_HOME/sulkbox"
+    printf '[General]\nmoodEnabled=false\n' >"$XDG_CONFIG_HOME/sulkbox/sulkbox.conf"
+    numbers() {
+        gdbus call --session --dest "$item" --object-path /StatusNotifierItem \
+            --method org.freedesktop.DBus.Properties.Get org.kde.StatusNotifierItem XAyatanaLabel |
+            grep -Eq "<'[0-9]+%  [0-9]+%'>"
+    }
+    wait_for 10 "the label to show the loads" numbers
+    sleep 1
+    "$SHOT" shot "$OUT/bar-numbers-full.png" 0 0 "$screen_w" "$bar_h"
+    "$SHOT" crop "$OUT/bar-numbers-full.png" "$OUT/bar-numbers.png" $((screen_w / 2)) 0 $((screen_w / 2)) "$bar_h" 2
+    say "numbers mode shows the loads"
 
     # Quit from the menu (its "Quit" entry, as the host sends it).
     gdbus call --session --dest "$item" --object-path /MenuBar --method com.canonical.dbusmenu.Event \

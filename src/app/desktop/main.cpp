@@ -27,7 +27,8 @@ int main(int argc, char **argv)
     QGuiApplication::setDesktopFileName(QStringLiteral("sulkbox"));
 
     // Qt's own event dispatcher: the idle ticks stay small.
-    if (qEnvironmentVariableIsEmpty("QT_NO_GLIB"))
+    const bool ownDispatcher = qEnvironmentVariableIsEmpty("QT_NO_GLIB");
+    if (ownDispatcher)
         qputenv("QT_NO_GLIB", "1");
     const bool x11 = !qEnvironmentVariableIsEmpty("DISPLAY");
     const bool wayland = !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY");
@@ -45,6 +46,8 @@ int main(int argc, char **argv)
 
     QGuiApplication app(argc, argv);
     app.setQuitOnLastWindowClosed(false);
+    if (ownDispatcher)
+        qunsetenv("QT_NO_GLIB"); // not for the programs started from here
 
     QDBusConnection bus = QDBusConnection::sessionBus();
     if (!bus.isConnected()) {
