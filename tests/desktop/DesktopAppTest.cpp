@@ -10,6 +10,7 @@
 
 #include "app/DesktopLauncher.h"
 #include "app/desktop/DesktopApp.h"
+#include "app/desktop/PreferencesMigration.h"
 #include "app/desktop/QuickFace.h"
 #include "app/desktop/SingleInstance.h"
 #include "l10n/Localizer.h"
@@ -82,6 +83,22 @@ private slots:
         TestSupport::clearSettings();
         Localizer::shared().reload();
         QML_CLEAN();
+    }
+
+    // The old settings come over before the model reads them.
+    void startUpMigratesBeforeTheModelStarts()
+    {
+        TestSupport::clearSettings();
+        TestSupport::writeFile(PreferencesMigration::legacyFilePath(), "refreshInterval=5\nlaunchAtLogin=true\n");
+        ManualScheduler scheduler;
+        DesktopApp::Options o = options(scheduler);
+        QList<bool> login;
+        o.setLoginItem = [&](bool on) { login.append(on); };
+        DesktopApp app(o);
+        QFile::remove(PreferencesMigration::legacyFilePath());
+        QCOMPARE(app.monitor().timerIntervalMs(), 5000);
+        QCOMPARE(login, QList<bool>{true});
+        QVERIFY(!app.quickFaceLoaded());
     }
 
     void activateOpensAndClosesThePanel()
