@@ -86,6 +86,13 @@ PanelWindow::~PanelWindow()
 {
     if (m_open)
         m_monitor.setPanelVisible(false);
+    if (m_window) {
+        // The window sends events while it goes; they are no longer ours.
+        m_window->removeEventFilter(this);
+        disconnect(m_window, nullptr, this, nullptr);
+    }
+    if (m_content)
+        disconnect(m_content, nullptr, this, nullptr);
     delete m_content;
     delete m_window;
 }

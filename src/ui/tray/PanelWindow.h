@@ -12,7 +12,6 @@
 #include <QList>
 #include <QObject>
 #include <QPoint>
-#include <QPointer>
 #include <QQuickItem>
 #include <QQuickWindow>
 #include <QRect>
@@ -85,8 +84,9 @@ private:
 
     SystemMonitor &m_monitor;
     QUrl m_source{QStringLiteral("qrc:/sulkbox/qml/Panel.qml")};
-    QPointer<QQuickWindow> m_window;
-    QPointer<QQuickItem> m_content;
+    // Made on the first opening, owned here.
+    QQuickWindow *m_window = nullptr;
+    QQuickItem *m_content = nullptr;
     Style m_style = Style::dropDown;
     QPoint m_anchor;
     bool m_open = false;
