@@ -63,6 +63,7 @@ qt_libs() { awk '{print $6}' "/proc/$1/maps" | grep -E 'libQt6|libicu' | xargs -
 
 "$BUILD/tests/traywatcher" >/dev/null &
 WATCHER=$!
+trap 'kill "$WATCHER" ${PID:+"$PID"} 2>/dev/null || true' EXIT
 for _ in $(seq 50); do
     gdbus call --session --dest org.freedesktop.DBus --object-path / --method org.freedesktop.DBus.NameHasOwner \
         org.kde.StatusNotifierWatcher 2>/dev/null | grep -q true && break
@@ -94,7 +95,7 @@ sleep 5
 echo "resident, opened and closed once:  $(mb "$(rss_kb "$PID")")"
 kill "$PID"
 wait "$PID" 2>/dev/null || true
-kill "$WATCHER"
+PID=
 
 bar() {
     local exe=$1 label=$2
