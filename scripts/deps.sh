@@ -11,11 +11,18 @@ packages=(
     libicu-dev libgl-dev
     qml6-module-qtquick qml6-module-qtquick-controls qml6-module-qtquick-layouts
     qml6-module-qtquick-window qml6-module-qtquick-templates qml6-module-qtqml-workerscript
+    qt6-qpa-plugins
     fonts-noto-color-emoji fonts-noto-cjk fonts-noto-core
     libqt6svg6 librsvg2-bin dpkg-dev
 )
 if [[ "${1:-}" == "--test" ]]; then
     packages+=(locales xvfb xauth procps desktop-file-utils appstream man-db)
+    # A private session bus for the tray and desktop tests; real tray hosts
+    # for the end-to-end tests: GNOME Shell with the AppIndicator extension
+    # (draws labels) and xfce4-panel (draws icons only).
+    packages+=(dbus-daemon dbus-bin libglib2.0-bin x11-utils xdotool
+        gnome-shell gnome-shell-extension-appindicator dconf-service dconf-gsettings-backend
+        xfce4-panel xfconf)
 fi
 
 missing=()

@@ -171,7 +171,8 @@ int run(const QStringList &arguments)
         "  bar             One label line per tick, for status bars.\n"
         "  capture FILE    Save the /proc and /sys files sulkbox reads, as FILE.tar.gz,\n"
         "                  to replay with --root.\n\n"
-        "Without a command the desktop face starts."));
+        "Without a command the desktop face starts: a tray item in the top bar whose\n"
+        "panel opens on a click. Started again, it opens the running one's panel."));
     parser.addHelpOption();
     parser.addVersionOption();
     const QCommandLineOption jsonOption(QStringLiteral("json"), QStringLiteral("status: print every record as JSON."));
