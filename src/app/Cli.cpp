@@ -6,6 +6,7 @@
 #include "app/StatusText.h"
 #include "l10n/Fmt.h"
 #include "l10n/Localizer.h"
+#include "model/Scheduler.h"
 #include "model/SystemMonitor.h"
 #include "personality/MoodEngine.h"
 #include "sampling/LinuxSamplers.h"
@@ -21,6 +22,7 @@
 #include <QTimer>
 
 #include <cerrno>
+#include <cmath>
 #include <csignal>
 #include <cstdio>
 #include <unistd.h>
@@ -136,6 +138,34 @@ QByteArray barLine(const SystemMonitor &monitor, BarFormat format, bool first)
     return {};
 }
 
+// A simulated clock for benchmarks and tests, never mentioned in the help:
+// SULKBOX_FAKE_CLOCK=START[,TICKS]. `bar` starts at START (ISO 8601; local
+// time unless it carries an offset) and each tick moves the clock on by the
+// interval instead of waiting for it: TICKS ticks back to back, or without
+// TICKS one tick per line read from standard input until it ends.
+struct FakeClock {
+    QDateTime start;
+    int ticks = -1; // -1: one per input line
+};
+
+std::optional<FakeClock> fakeClockFromEnvironment()
+{
+    const QString value = qEnvironmentVariable("SULKBOX_FAKE_CLOCK");
+    if (value.isEmpty())
+        return std::nullopt;
+    FakeClock clock;
+    clock.start = QDateTime::fromString(value.section(u',', 0, 0), Qt::ISODateWithMs);
+    if (!clock.start.isValid())
+        return std::nullopt;
+    if (value.contains(u',')) {
+        bool ok = false;
+        clock.ticks = value.section(u',', 1, 1).toInt(&ok);
+        if (!ok || clock.ticks < 0)
+            return std::nullopt;
+    }
+    return clock;
+}
+
 int runBar(const SystemRoots &roots, BarFormat format)
 {
     // A closed reader must end us with status 0, not kill us.
@@ -143,8 +173,30 @@ int runBar(const SystemRoots &roots, BarFormat format)
     if (format == BarFormat::i3bar && !writeOut("{\"version\":1}\n[\n"))
         return 0;
 
+    auto samplers = std::make_shared<LinuxSamplers>(roots);
+    const std::optional<FakeClock> fake = fakeClockFromEnvironment();
+    if (fake) {
+        ManualScheduler scheduler(fake->start);
+        samplers->setRateClock([&scheduler] { return scheduler.now().toMSecsSinceEpoch() / 1000.0; });
+        SystemMonitor monitor(samplers, scheduler);
+        if (!writeOut(barLine(monitor, format, true)))
+            return 0;
+        for (int done = 0; fake->ticks < 0 || done < fake->ticks; ++done) {
+            if (fake->ticks < 0) {
+                char line[256];
+                if (!std::fgets(line, sizeof line, stdin))
+                    break;
+            }
+            scheduler.advance(std::lround(monitor.currentInterval() * 1000));
+            monitor.tick();
+            if (!writeOut(barLine(monitor, format, false)))
+                break;
+        }
+        return 0;
+    }
+
     // The hidden panel's schedule: fast readers every tick, slow every 9th.
-    SystemMonitor monitor(std::make_shared<LinuxSamplers>(roots));
+    SystemMonitor monitor(samplers);
     if (!writeOut(barLine(monitor, format, true)))
         return 0;
     QObject::connect(&monitor, &SystemMonitor::ticked, &monitor, [&monitor, format] {
