@@ -1,5 +1,6 @@
 #include "app/Cli.h"
 
+#include "app/BarLine.h"
 #include "app/JsonExport.h"
 #include "settings/Settings.h"
 #include "app/Snapshot.h"
@@ -10,13 +11,11 @@
 #include "model/SystemMonitor.h"
 #include "personality/MoodEngine.h"
 #include "sampling/LinuxSamplers.h"
-#include "ui/MenuBarLabel.h"
 
 #include <QCommandLineParser>
 #include <QCoreApplication>
 #include <QEventLoop>
 #include <QFileInfo>
-#include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QTimer>
@@ -107,36 +106,7 @@ int runStatus(const SystemRoots &roots, bool json)
 
 // --- bar --------------------------------------------------------------------
 
-enum class BarFormat { plain, waybar, i3bar };
-
-QByteArray barLine(const SystemMonitor &monitor, BarFormat format, bool first)
-{
-    const Localizer &loc = Localizer::shared();
-    const QString label = MenuBarLabel::text(monitor, loc);
-    const Mood &shown = monitor.reactionOrMood();
-    switch (format) {
-    case BarFormat::plain:
-        return (label + u'\n').toUtf8();
-    case BarFormat::waybar: {
-        QJsonObject o{{u"text"_qs, label},
-                      {u"tooltip"_qs, MenuBarLabel::phrase(shown, loc) + u'\n' + MenuBarLabel::reason(shown, loc)
-                                          + u'\n' + StatusText::headline(monitor, loc)},
-                      {u"class"_qs, moodKindName(shown.kind())},
-                      {u"alt"_qs, moodKindName(shown.kind())},
-                      {u"percentage"_qs, qRound(monitor.cpu().total * 100)}};
-        return QJsonDocument(o).toJson(QJsonDocument::Compact) + '\n';
-    }
-    case BarFormat::i3bar: {
-        QJsonObject block{{u"name"_qs, u"sulkbox"_qs},
-                          {u"full_text"_qs, label},
-                          {u"short_text"_qs, shown.emoji()},
-                          {u"color"_qs, shown.tint().name()}};
-        const QByteArray body = QJsonDocument(QJsonArray{block}).toJson(QJsonDocument::Compact);
-        return (first ? QByteArray() : QByteArray(",")) + body + '\n';
-    }
-    }
-    return {};
-}
+using BarFormat = BarLine::Format;
 
 // A simulated clock for benchmarks and tests, never mentioned in the help:
 // SULKBOX_FAKE_CLOCK=START[,TICKS]. `bar` starts at START (ISO 8601; local
@@ -170,7 +140,8 @@ int runBar(const SystemRoots &roots, BarFormat format)
 {
     // A closed reader must end us with status 0, not kill us.
     std::signal(SIGPIPE, SIG_IGN);
-    if (format == BarFormat::i3bar && !writeOut("{\"version\":1}\n[\n"))
+    BarLine bar(format);
+    if (!writeOut(bar.header()))
         return 0;
 
     auto samplers = std::make_shared<LinuxSamplers>(roots);
@@ -179,7 +150,7 @@ int runBar(const SystemRoots &roots, BarFormat format)
         ManualScheduler scheduler(fake->start);
         samplers->setRateClock([&scheduler] { return scheduler.now().toMSecsSinceEpoch() / 1000.0; });
         SystemMonitor monitor(samplers, scheduler);
-        if (!writeOut(barLine(monitor, format, true)))
+        if (!writeOut(bar.next(monitor)))
             return 0;
         for (int done = 0; fake->ticks < 0 || done < fake->ticks; ++done) {
             if (fake->ticks < 0) {
@@ -189,7 +160,7 @@ int runBar(const SystemRoots &roots, BarFormat format)
             }
             scheduler.advance(std::lround(monitor.currentInterval() * 1000));
             monitor.tick();
-            if (!writeOut(barLine(monitor, format, false)))
+            if (!writeOut(bar.next(monitor)))
                 break;
         }
         return 0;
@@ -197,10 +168,10 @@ int runBar(const SystemRoots &roots, BarFormat format)
 
     // The hidden panel's schedule: fast readers every tick, slow every 9th.
     SystemMonitor monitor(samplers);
-    if (!writeOut(barLine(monitor, format, true)))
+    if (!writeOut(bar.next(monitor)))
         return 0;
-    QObject::connect(&monitor, &SystemMonitor::ticked, &monitor, [&monitor, format] {
-        if (!writeOut(barLine(monitor, format, false)))
+    QObject::connect(&monitor, &SystemMonitor::ticked, &monitor, [&monitor, &bar] {
+        if (!writeOut(bar.next(monitor)))
             QCoreApplication::exit(0);
     });
     return QCoreApplication::exec();

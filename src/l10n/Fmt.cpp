@@ -17,12 +17,20 @@ QString fixed(double v, int decimals)
     decimals = std::max(decimals, 0);
     // to_chars is locale-independent and rounds exactly like printf. Room for
     // the sign, the 309 integer digits of the largest double, the point and
-    // every decimal asked for.
-    std::string buf(size_t(decimals) + 320, '\0');
-    const auto res = std::to_chars(buf.data(), buf.data() + buf.size(), v, std::chars_format::fixed, decimals);
+    // every decimal asked for; on the stack for the usual few decimals.
+    std::array<char, 352> small;
+    std::string large;
+    char *buf = small.data();
+    size_t size = small.size();
+    if (size_t(decimals) + 320 > size) {
+        large.resize(size_t(decimals) + 320);
+        buf = large.data();
+        size = large.size();
+    }
+    const auto res = std::to_chars(buf, buf + size, v, std::chars_format::fixed, decimals);
     if (res.ec != std::errc())
         return QStringLiteral("0");
-    return QString::fromLatin1(buf.data(), qsizetype(res.ptr - buf.data()));
+    return QString::fromLatin1(buf, qsizetype(res.ptr - buf));
 }
 
 QString bytes(double v, int decimals)

@@ -9,6 +9,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QHash>
 #include <QProcess>
 #include <QTemporaryDir>
 #include <QTest>
@@ -122,16 +123,26 @@ public:
     }
 
 private:
+    // Files are written only when their contents change.
+    void write(const QString &path, const QByteArray &data)
+    {
+        QByteArray &last = m_written[path];
+        if (last == data)
+            return;
+        last = data;
+        TestSupport::writeFile(path, data);
+    }
     void writeProc(const QByteArray &name, const QByteArray &data)
     {
-        TestSupport::writeFile(m_root + QStringLiteral("/proc/") + QString::fromLatin1(name), data);
+        write(m_root + QStringLiteral("/proc/") + QString::fromLatin1(name), data);
     }
     void writeSys(const QByteArray &name, const QByteArray &data)
     {
-        TestSupport::writeFile(m_root + QStringLiteral("/sys/") + QString::fromLatin1(name), data + '\n');
+        write(m_root + QStringLiteral("/sys/") + QString::fromLatin1(name), data + '\n');
     }
 
     QString m_root;
+    QHash<QString, QByteArray> m_written;
     qint64 m_busy[kCores] = {1820000, 1830000, 1840000, 1850000, 1860000, 1870000, 1880000, 1890000};
     qint64 m_idle[kCores] = {2412301, 2410301, 2408301, 2406301, 2404301, 2402301, 2400301, 2398301};
     quint64 m_in = 9876543210;
