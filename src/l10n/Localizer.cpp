@@ -92,6 +92,8 @@ void Localizer::apply(AppLanguage lang, bool askSystem)
     if (lang == m_language && concrete == m_concrete)
         return;
     m_language = lang;
+    if (concrete != m_concrete)
+        m_texts = {};
     m_concrete = concrete;
     emit languageChanged();
 }
@@ -216,13 +218,19 @@ QString Localizer::fill(const QString &format, const QStringList &args)
 
 QString Localizer::t(LocKey key, const QStringList &args) const
 {
-    const AppLanguage lang = concrete();
-    QString text = rawValue(key);
-    if (lang != AppLanguage::en) {
-        if (auto translated = tableText(key, lang))
-            text = *translated;
+    const int index = int(key);
+    if (index < 0 || index >= locKeyCount)
+        return {};
+    // Each text is looked up once per language; the lookup converts and
+    // hashes the English text.
+    std::optional<QString> &text = m_texts[size_t(index)];
+    if (!text) {
+        if (m_concrete != AppLanguage::en)
+            text = tableText(key, m_concrete);
+        if (!text)
+            text = rawValue(key);
     }
-    return fill(text, args);
+    return fill(*text, args);
 }
 
 QString Localizer::pickerName(AppLanguage lang) const

@@ -9,6 +9,7 @@
 #include <QString>
 #include <QStringList>
 
+#include <array>
 #include <functional>
 #include <optional>
 
@@ -89,4 +90,6 @@ private:
     // changes rather than on every lookup (it reads the environment).
     AppLanguage m_system = AppLanguage::en;
     AppLanguage m_concrete = AppLanguage::en;
+    // The texts of m_concrete looked up so far, by key.
+    mutable std::array<std::optional<QString>, locKeyCount> m_texts;
 };
