@@ -24,6 +24,7 @@
 #include <cmath>
 #include <csignal>
 #include <cstdio>
+#include <cstdlib>
 #include <unistd.h>
 
 namespace Cli {
@@ -273,7 +274,12 @@ int run(const QStringList &arguments)
             format = BarFormat::i3bar;
         else
             return usageError(QStringLiteral("unknown bar format '%1' (plain, waybar, i3bar).").arg(f));
-        return runBar(roots, format);
+        // A feed ends without the libraries' teardown: it has nothing to
+        // save, and destructors that never ran before would be paged in
+        // just to free what the kernel frees anyway.
+        const int status = runBar(roots, format);
+        std::fflush(nullptr);
+        std::_Exit(status);
     }
     if (positional.size() != 2)
         return usageError(QStringLiteral("capture needs one FILE.tar.gz."));
