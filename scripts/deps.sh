@@ -3,6 +3,7 @@
 # any are missing. Uses sudo when not run as root.
 #   scripts/deps.sh          build and run
 #   scripts/deps.sh --test   also what the tests need
+#   scripts/deps.sh --bench  also what the benchmark scripts in bench/ run
 set -euo pipefail
 
 packages=(
@@ -23,6 +24,10 @@ if [[ "${1:-}" == "--test" ]]; then
     packages+=(dbus-daemon dbus-bin libglib2.0-bin x11-utils xdotool
         gnome-shell gnome-shell-extension-appindicator dconf-service dconf-gsettings-backend
         xfce4-panel xfconf)
+fi
+if [[ "${1:-}" == "--bench" ]]; then
+    # callgrind, and i3status as the baseline the bar is measured against.
+    packages+=(valgrind i3status bc time procps)
 fi
 
 missing=()

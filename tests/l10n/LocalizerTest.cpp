@@ -3,7 +3,9 @@
 #include "settings/Settings.h"
 #include "l10n/Localizer.h"
 
+#include <QCoreApplication>
 #include <QRegularExpression>
+#include <QScopeGuard>
 #include <QSet>
 #include <QSignalSpy>
 #include <QTest>
@@ -227,6 +229,43 @@ private slots:
         QFETCH(QString, tag);
         QFETCH(AppLanguage, lang);
         QCOMPARE(Localizer::languageForTag(tag), lang);
+    }
+
+    void systemLanguageFollowsALocaleChange()
+    {
+        Localizer &loc = Localizer::shared();
+        QCOMPARE(loc.language(), AppLanguage::system);
+        const AppLanguage before = loc.concrete();
+        QStringList preferred{u"ko-KR"_qs, u"en-US"_qs};
+        Localizer::setPreferredLanguagesSource([&preferred] { return preferred; });
+        auto restore = qScopeGuard([&loc] {
+            Localizer::setPreferredLanguagesSource({});
+            loc.systemLocaleChanged();
+        });
+        QCOMPARE(Localizer::systemLanguage(), AppLanguage::ko);
+
+        // Lookups keep the language resolved before, until the application
+        // hears of the change.
+        QSignalSpy spy(&loc, &Localizer::languageChanged);
+        QCOMPARE(loc.concrete(), before);
+        QEvent change(QEvent::LocaleChange);
+        QCoreApplication::sendEvent(QCoreApplication::instance(), &change);
+        QCOMPARE(loc.concrete(), AppLanguage::ko);
+        QCOMPARE(spy.count(), 1);
+        QCOMPARE(loc.t(LocKey::memory), Localizer::tableText(LocKey::memory, AppLanguage::ko).value());
+        // The same preference again announces nothing.
+        QCoreApplication::sendEvent(QCoreApplication::instance(), &change);
+        QCOMPARE(spy.count(), 1);
+
+        // A chosen language stays whatever the system prefers; going back
+        // to automatic asks the system again.
+        loc.setLanguage(AppLanguage::ja);
+        preferred = {u"zh-TW"_qs, u"zh-Hant-TW"_qs};
+        QCoreApplication::sendEvent(QCoreApplication::instance(), &change);
+        QCOMPARE(loc.concrete(), AppLanguage::ja);
+        loc.setLanguage(AppLanguage::system);
+        QCOMPARE(loc.concrete(), AppLanguage::zhHant);
+        QCOMPARE(loc.t(LocKey::memory), Localizer::tableText(LocKey::memory, AppLanguage::zhHant).value());
     }
 
     void onlyTheFirstPreferenceCounts()
