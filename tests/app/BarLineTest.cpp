@@ -74,16 +74,8 @@ QByteArray qtJsonString(const QString &s)
 class BarLineTest : public QObject {
     Q_OBJECT
 private slots:
-    void init()
-    {
-        TestSupport::clearSettings();
-        Localizer::shared().reload();
-    }
-    void cleanup()
-    {
-        TestSupport::clearSettings();
-        Localizer::shared().reload();
-    }
+    void init() { TestSupport::resetSettings(); }
+    void cleanup() { TestSupport::resetSettings(); }
 
     void jsonStringsAsQtWritesThem()
     {

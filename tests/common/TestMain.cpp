@@ -3,6 +3,7 @@
 
 #include "common/TestSupport.h"
 
+#include "l10n/Localizer.h"
 #include "settings/Settings.h"
 
 #include <QFile>
@@ -82,6 +83,12 @@ void clearSettings()
     Settings::clearOverrides();
     Settings::store().clear();
     Settings::reloadFromDisk();
+}
+
+void resetSettings()
+{
+    clearSettings();
+    Localizer::shared().reload();
 }
 
 } // namespace TestSupport

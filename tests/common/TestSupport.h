@@ -36,6 +36,11 @@ QString settingsFolder();
 // Forgets every stored setting.
 void clearSettings();
 
+// Forgets every stored setting and brings the interface texts back to the
+// language the cleared settings give (what init() and cleanup() of tests
+// that touch either want).
+void resetSettings();
+
 } // namespace TestSupport
 
 #define SULK_TEST(Class)                                                                          \

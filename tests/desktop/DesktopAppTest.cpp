@@ -13,7 +13,6 @@
 #include "app/desktop/PreferencesMigration.h"
 #include "app/desktop/QuickFace.h"
 #include "app/desktop/SingleInstance.h"
-#include "l10n/Localizer.h"
 #include "model/SystemMonitor.h"
 #include "settings/Settings.h"
 #include "ui/common/QmlHost.h"
@@ -74,14 +73,12 @@ private slots:
     }
     void init()
     {
-        TestSupport::clearSettings();
+        TestSupport::resetSettings();
         Settings::set(Settings::Key::refreshInterval, 10.0);
-        Localizer::shared().reload();
     }
     void cleanup()
     {
-        TestSupport::clearSettings();
-        Localizer::shared().reload();
+        TestSupport::resetSettings();
         QML_CLEAN();
     }
 

@@ -156,8 +156,8 @@ private slots:
 class LocalizerTest : public QObject {
     Q_OBJECT
 private slots:
-    void init() { TestSupport::clearSettings(); Localizer::shared().reload(); }
-    void cleanup() { TestSupport::clearSettings(); Localizer::shared().reload(); }
+    void init() { TestSupport::resetSettings(); }
+    void cleanup() { TestSupport::resetSettings(); }
 
     void keysWithoutRowFallBackToEnglish()
     {

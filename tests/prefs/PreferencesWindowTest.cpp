@@ -129,8 +129,7 @@ private slots:
     void cleanup()
     {
         QFile::remove(LoginItem::entryPath());
-        TestSupport::clearSettings();
-        Localizer::shared().reload();
+        TestSupport::resetSettings();
         QML_CLEAN();
     }
 

@@ -129,8 +129,7 @@ private slots:
     }
     void cleanup()
     {
-        TestSupport::clearSettings();
-        Localizer::shared().reload();
+        TestSupport::resetSettings();
         QML_CLEAN();
     }
 

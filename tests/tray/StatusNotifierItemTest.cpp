@@ -99,16 +99,11 @@ class TrayItemTest : public QObject {
 private slots:
     void init()
     {
-        TestSupport::clearSettings();
+        TestSupport::resetSettings();
         // No timer ticks of their own during a test: the test ticks.
         Settings::set(Settings::Key::refreshInterval, 10.0);
-        Localizer::shared().reload();
     }
-    void cleanup()
-    {
-        TestSupport::clearSettings();
-        Localizer::shared().reload();
-    }
+    void cleanup() { TestSupport::resetSettings(); }
 
     void registersWithTheWatcherAndAgainWhenItReturns()
     {
@@ -345,15 +340,10 @@ private:
 private slots:
     void init()
     {
-        TestSupport::clearSettings();
+        TestSupport::resetSettings();
         Settings::set(Settings::Key::refreshInterval, 10.0);
-        Localizer::shared().reload();
     }
-    void cleanup()
-    {
-        TestSupport::clearSettings();
-        Localizer::shared().reload();
-    }
+    void cleanup() { TestSupport::resetSettings(); }
 
     void layoutStartsWithOpenPanelAndFollowsTheLanguage()
     {

@@ -35,11 +35,10 @@ private:
 
 private slots:
     void initTestCase() { QmlWarnings::catchAll(); }
-    void init() { TestSupport::clearSettings(); Localizer::shared().reload(); }
+    void init() { TestSupport::resetSettings(); }
     void cleanup()
     {
-        TestSupport::clearSettings();
-        Localizer::shared().reload();
+        TestSupport::resetSettings();
         QML_CLEAN();
     }
 
