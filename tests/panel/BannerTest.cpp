@@ -21,31 +21,13 @@ BannerModel *bannerModel(const Panel &p)
 
 } // namespace
 
-class BannerTest : public QObject {
+class BannerTest : public PanelHarness::TestCase {
     Q_OBJECT
 
 private slots:
-    void initTestCase()
-    {
-        QmlWarnings::catchAll();
-        PanelHarness::setUpRendering();
-    }
-    void init()
-    {
-        TestSupport::clearSettings();
-        Localizer::shared().reload();
-    }
-    void cleanup()
-    {
-        TestSupport::clearSettings();
-        Localizer::shared().reload();
-        QML_CLEAN();
-    }
-
     void nameLineAndLanguage()
     {
         Panel p;
-        p.ordinaryReadings();
         p.load();
         QCOMPARE(p.text(p.find(u"nameLine"_qs)), u"YOUR COMPUTER"_qs);
         AppSettings::shared().setPetName(u"Pixel"_qs);
@@ -60,7 +42,6 @@ private slots:
     void onePokePerClickAnywhere()
     {
         Panel p;
-        p.ordinaryReadings();
         p.load();
         BannerModel *model = bannerModel(p);
         QQuickItem *banner = p.find(u"banner"_qs);
@@ -93,7 +74,6 @@ private slots:
     void fifthPokeAnnoys()
     {
         Panel p;
-        p.ordinaryReadings();
         p.load();
         BannerModel *model = bannerModel(p);
         QQuickItem *face = p.find(u"face"_qs);
@@ -120,7 +100,6 @@ private slots:
     void roastReplacesQuipAndEnds()
     {
         Panel p;
-        p.ordinaryReadings();
         p.load();
         BannerModel *model = bannerModel(p);
         p.click(p.find(u"face"_qs));
@@ -144,7 +123,6 @@ private slots:
     void savageFaceFollowsTheSetting()
     {
         Panel p;
-        p.ordinaryReadings();
         p.load();
         QQuickItem *face = p.find(u"face"_qs);
         const QString moodFace = p.monitor->mood().emoji();
@@ -175,7 +153,6 @@ private slots:
     void longRoastWrapsToThreeLines()
     {
         Panel p;
-        p.ordinaryReadings();
         p.samplers->processes = {ProcInfo(7, QString(u"very-long-process-name-"_qs).repeated(12), 95, 1)};
         p.load();
         p.monitor->sampleSlow();

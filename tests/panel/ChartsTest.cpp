@@ -16,27 +16,10 @@
 using PanelHarness::Panel;
 using PanelHarness::shown;
 
-class ChartsTest : public QObject {
+class ChartsTest : public PanelHarness::TestCase {
     Q_OBJECT
 
 private slots:
-    void initTestCase()
-    {
-        QmlWarnings::catchAll();
-        PanelHarness::setUpRendering();
-    }
-    void init()
-    {
-        TestSupport::clearSettings();
-        Localizer::shared().reload();
-    }
-    void cleanup()
-    {
-        TestSupport::clearSettings();
-        Localizer::shared().reload();
-        QML_CLEAN();
-    }
-
     void sparklinePoints()
     {
         const double nan = std::numeric_limits<double>::quiet_NaN();
@@ -112,7 +95,6 @@ private slots:
     void chartExpandsOnClick()
     {
         Panel p;
-        p.ordinaryReadings();
         p.load();
         QQuickItem *chart = p.find(u"cpuChart"_qs);
         QQuickItem *plot = p.find(u"plot"_qs);
@@ -134,7 +116,6 @@ private slots:
     void emptyHistoryChart()
     {
         Panel p;
-        p.ordinaryReadings();
         p.samplers->network.downRate = 0;
         p.load();
         QList<QQuickItem *> charts = p.findAll(u"rateChart"_qs);

@@ -37,6 +37,26 @@ inline void setUpRendering()
     QQuickStyle::setStyle(QStringLiteral("Fusion"));
 }
 
+// The panel tests' frame: QML warnings fail the test, the software
+// renderer, and the settings and texts reset around every test. A test class
+// that needs more in cleanup() declares its own and calls this one.
+class TestCase : public QObject {
+    Q_OBJECT
+
+protected slots:
+    void initTestCase()
+    {
+        QmlWarnings::catchAll();
+        setUpRendering();
+    }
+    void init() { TestSupport::resetSettings(); }
+    void cleanup()
+    {
+        TestSupport::resetSettings();
+        QML_CLEAN();
+    }
+};
+
 struct Panel {
     ManualScheduler scheduler;
     std::shared_ptr<FakeSamplers> samplers = std::make_shared<FakeSamplers>();
@@ -46,8 +66,9 @@ struct Panel {
     std::unique_ptr<QQuickWindow> window;
     QQuickItem *root = nullptr;
 
-    // Fills the fake readings with an ordinary machine.
-    void ordinaryReadings()
+    // The fake readings start as an ordinary machine; a test changes them
+    // before load().
+    Panel()
     {
         samplers->cpu.total = 0.23;
         samplers->cpu.user = 0.15;

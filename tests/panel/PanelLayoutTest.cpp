@@ -56,32 +56,19 @@ QStringList visibleTexts(QQuickItem *root)
 
 } // namespace
 
-class PanelLayoutTest : public QObject {
+class PanelLayoutTest : public PanelHarness::TestCase {
     Q_OBJECT
 
 private slots:
-    void initTestCase()
-    {
-        QmlWarnings::catchAll();
-        PanelHarness::setUpRendering();
-    }
-    void init()
-    {
-        TestSupport::clearSettings();
-        Localizer::shared().reload();
-    }
     void cleanup()
     {
         QGuiApplication::setPalette(QPalette());
-        TestSupport::clearSettings();
-        Localizer::shared().reload();
-        QML_CLEAN();
+        TestCase::cleanup();
     }
 
     void modulesInOrderWithDividersBetween()
     {
         Panel p;
-        p.ordinaryReadings();
         p.load();
         QCOMPARE(p.root->width(), 300.0);
         QCOMPARE(columnOrder(p),
@@ -108,7 +95,6 @@ private slots:
     void everyModuleOff()
     {
         Panel p;
-        p.ordinaryReadings();
         showOnly({});
         p.load();
         QVERIFY(columnOrder(p).isEmpty());
@@ -123,7 +109,6 @@ private slots:
     void footerAndEscape()
     {
         Panel p;
-        p.ordinaryReadings();
         p.load();
         QSignalSpy monitorSpy(&p.actions, &DesktopActions::systemMonitorRequested);
         QSignalSpy prefsSpy(&p.actions, &DesktopActions::preferencesRequested);
@@ -147,7 +132,6 @@ private slots:
     void headerTapRoastsWithPointingHand()
     {
         Panel p;
-        p.ordinaryReadings();
         p.load();
         QQuickItem *header = p.find(u"memoryHeader"_qs);
         QVERIFY(header);
@@ -176,7 +160,6 @@ private slots:
     void scrollsByWheelAndBar()
     {
         Panel p;
-        p.ordinaryReadings();
         p.load();
         auto *scroller = p.find(u"scroller"_qs);
         const qreal range = scroller->property("contentHeight").toReal() - scroller->height();
@@ -201,7 +184,6 @@ private slots:
     void closedPanelDoesNoWork()
     {
         Panel p;
-        p.ordinaryReadings();
         p.load();
         QVERIFY(p.find(u"modules"_qs)->property("item").value<QObject *>());
         // Scrolled just before closing: the bar's fade-out timer is running.
@@ -234,7 +216,6 @@ private slots:
     void languageSwitchesAtOnce()
     {
         Panel p;
-        p.ordinaryReadings();
         p.samplers->battery.present = true;
         p.samplers->battery.charge = 0.5;
         p.samplers->battery.cycleCount = 100;
@@ -274,7 +255,6 @@ private slots:
     void followsTheDesktopPalette()
     {
         Panel p;
-        p.ordinaryReadings();
         p.load();
         auto lightness = [&] {
             QQuickItem *header = p.find(u"memoryHeader"_qs);

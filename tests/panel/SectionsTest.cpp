@@ -74,32 +74,14 @@ void verifyApart(QQuickItem *left, QQuickItem *right)
 
 } // namespace
 
-class SectionsTest : public QObject {
+class SectionsTest : public PanelHarness::TestCase {
     Q_OBJECT
 
 private slots:
-    void initTestCase()
-    {
-        QmlWarnings::catchAll();
-        PanelHarness::setUpRendering();
-    }
-    void init()
-    {
-        TestSupport::clearSettings();
-        Localizer::shared().reload();
-    }
-    void cleanup()
-    {
-        TestSupport::clearSettings();
-        Localizer::shared().reload();
-        QML_CLEAN();
-    }
-
     void freeUpRunsOnceAtATime()
     {
         FakeCleaner cleaner;
         Panel p;
-        p.ordinaryReadings();
         p.load();
         QQuickItem *button = p.find(u"freeUpButton"_qs);
         p.click(button);
@@ -140,7 +122,6 @@ private slots:
     {
         FakeCleaner cleaner;
         Panel p;
-        p.ordinaryReadings();
         p.load();
         p.click(p.find(u"freeUpButton"_qs));
         p.close();
@@ -154,7 +135,6 @@ private slots:
     void sixOfTenProcessesScaledToTheBusiest()
     {
         Panel p;
-        p.ordinaryReadings();
         p.samplers->processes = {ProcInfo(1, u"render"_qs, 250, 1), ProcInfo(2, u"compile"_qs, 100, 1),
                                  ProcInfo(3, u"browser"_qs, 20, 1)};
         for (int i = 4; i <= 10; ++i)
@@ -177,7 +157,6 @@ private slots:
     void volumeFigures()
     {
         Panel p;
-        p.ordinaryReadings();
         p.samplers->disk.volumes = {VolumeInfo{u"data"_qs, u"/data"_qs, 500e9, 125e9},
                                     VolumeInfo{u"empty"_qs, u"/empty"_qs, 0, 0}};
         p.load();
@@ -219,7 +198,6 @@ private slots:
         QFETCH(double, gpuTemp);
         QFETCH(bool, noSensorsText);
         Panel p;
-        p.ordinaryReadings();
         p.samplers->sensors = {};
         p.samplers->sensors.cpuTemp = cpuTemp;
         p.samplers->sensors.gpuTemp = gpuTemp;
@@ -246,7 +224,6 @@ private slots:
     void gpuCardWithoutUsage()
     {
         Panel p;
-        p.ordinaryReadings();
         p.samplers->sensors.gpuTemp = 0;
         p.samplers->gpu = GPUSample{true, 0.62, 0};
         p.load();
@@ -259,7 +236,6 @@ private slots:
     void batteryColoursAndStatus()
     {
         Panel p;
-        p.ordinaryReadings();
         p.samplers->battery.present = true;
         p.samplers->battery.charge = 0.15;
         p.samplers->battery.timeToEmpty = 75;
@@ -288,7 +264,6 @@ private slots:
     void optionalRowsStepAside()
     {
         Panel p;
-        p.ordinaryReadings();
         p.samplers->cpu.perCore = {};
         p.samplers->memory.swapTotal = 0;
         p.load();
@@ -308,7 +283,6 @@ private slots:
     {
         const double nan = std::numeric_limits<double>::quiet_NaN();
         Panel p;
-        p.ordinaryReadings();
         p.samplers->cpu = CPUSample{nan, -0.5, 7, nan, {nan, -1, 5, 0.5}};
         p.samplers->memory = MemorySample{-16e9, nan, 1e300, -1, nan, -5, 9, nan, -2};
         p.samplers->network.downRate = -1e9;
