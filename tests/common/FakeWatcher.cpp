@@ -9,6 +9,11 @@ namespace {
 
 int serial = 0;
 
+const QString itemPath = QStringLiteral("/StatusNotifierItem");
+const QString itemInterface = QStringLiteral("org.kde.StatusNotifierItem");
+const QString menuPath = QStringLiteral("/MenuBar");
+const QString menuInterface = QStringLiteral("com.canonical.dbusmenu");
+
 } // namespace
 
 class FakeWatcherAdaptor : public QDBusAbstractAdaptor {
@@ -81,14 +86,13 @@ void FakeWatcher::registerItem(const QString &service)
 
 void FakeWatcher::follow(const QString &service)
 {
-    const QString item = QStringLiteral("/StatusNotifierItem");
-    const QString sni = QStringLiteral("org.kde.StatusNotifierItem");
-    m_bus.connect(service, item, sni, QStringLiteral("XAyatanaNewLabel"), this, SLOT(onLabel(QString, QString)));
-    m_bus.connect(service, item, sni, QStringLiteral("NewIcon"), this, SLOT(onNewIcon()));
-    m_bus.connect(service, item, sni, QStringLiteral("NewTitle"), this, SLOT(onNewTitle()));
-    m_bus.connect(service, item, sni, QStringLiteral("NewToolTip"), this, SLOT(onNewToolTip()));
-    m_bus.connect(service, QStringLiteral("/MenuBar"), QStringLiteral("com.canonical.dbusmenu"),
-                  QStringLiteral("LayoutUpdated"), this, SLOT(onLayoutUpdated(uint, int)));
+    m_bus.connect(service, itemPath, itemInterface, QStringLiteral("XAyatanaNewLabel"), this,
+                  SLOT(onLabel(QString, QString)));
+    m_bus.connect(service, itemPath, itemInterface, QStringLiteral("NewIcon"), this, SLOT(onNewIcon()));
+    m_bus.connect(service, itemPath, itemInterface, QStringLiteral("NewTitle"), this, SLOT(onNewTitle()));
+    m_bus.connect(service, itemPath, itemInterface, QStringLiteral("NewToolTip"), this, SLOT(onNewToolTip()));
+    m_bus.connect(service, menuPath, menuInterface, QStringLiteral("LayoutUpdated"), this,
+                  SLOT(onLayoutUpdated(uint, int)));
 }
 
 QDBusMessage FakeWatcher::call(const QString &service, const QString &path, const QString &interface,
@@ -107,6 +111,26 @@ QVariant FakeWatcher::property(const QString &service, const QString &path, cons
     if (reply.type() != QDBusMessage::ReplyMessage || reply.arguments().isEmpty())
         return {};
     return reply.arguments().first().value<QDBusVariant>().variant();
+}
+
+QVariant FakeWatcher::itemProperty(const QString &service, const QString &name)
+{
+    return property(service, itemPath, itemInterface, name);
+}
+
+QDBusMessage FakeWatcher::callItem(const QString &service, const QString &method, const QVariantList &args)
+{
+    return call(service, itemPath, itemInterface, method, args);
+}
+
+QDBusMessage FakeWatcher::callMenu(const QString &service, const QString &method, const QVariantList &args)
+{
+    return call(service, menuPath, menuInterface, method, args);
+}
+
+QDBusMessage FakeWatcher::menuEvent(const QString &service, int id, const QString &event)
+{
+    return callMenu(service, QStringLiteral("Event"), {id, event, QVariant::fromValue(QDBusVariant(0)), 0u});
 }
 
 #include "FakeWatcher.moc"

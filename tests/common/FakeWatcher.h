@@ -40,6 +40,14 @@ public:
     QVariant property(const QString &service, const QString &path, const QString &interface,
                       const QString &name);
 
+    // An item's own object and its menu, at the paths every item serves.
+    QVariant itemProperty(const QString &service, const QString &name);
+    QDBusMessage callItem(const QString &service, const QString &method, const QVariantList &args = {});
+    QDBusMessage callMenu(const QString &service, const QString &method, const QVariantList &args = {});
+    // An event on the menu entry `id`, as a host sends it when the entry is
+    // clicked (or hovered, opened...).
+    QDBusMessage menuEvent(const QString &service, int id, const QString &event = QStringLiteral("clicked"));
+
     // The watcher's side of the protocol.
     void registerItem(const QString &service);
     // The unique bus name of the connection calling now.

@@ -18,7 +18,6 @@
 #include "ui/common/QmlHost.h"
 #include "ui/tray/StatusNotifierItem.h"
 
-#include <QDBusVariant>
 #include <QFile>
 #include <QGuiApplication>
 #include <QProcess>
@@ -31,9 +30,6 @@
 #include <memory>
 
 namespace {
-
-const QString itemPath = QStringLiteral("/StatusNotifierItem");
-const QString itemInterface = QStringLiteral("org.kde.StatusNotifierItem");
 
 DesktopApp::Options options(ManualScheduler &scheduler, int hostWaitMs = 60000)
 {
@@ -114,7 +110,7 @@ private slots:
         const QString item = app.item().serviceName();
         const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
         const QPoint click(screen.center().x(), screen.top() + 10);
-        watcher.call(item, itemPath, itemInterface, u"Activate"_qs, {click.x(), click.y()});
+        watcher.callItem(item, u"Activate"_qs, {click.x(), click.y()});
         QTRY_VERIFY(app.quickFaceLoaded() && app.quickFace()->panelOpen());
         QuickFace &face = *app.quickFace();
         QCOMPARE(visible.size(), 1);
@@ -135,14 +131,14 @@ private slots:
         QCOMPARE(flags & Qt::WindowType_Mask, Qt::Tool); // a tool window, not a popup
 
         // A second click closes it.
-        watcher.call(item, itemPath, itemInterface, u"Activate"_qs, {click.x(), click.y()});
+        watcher.callItem(item, u"Activate"_qs, {click.x(), click.y()});
         QTRY_VERIFY(!face.panelOpen());
         QCOMPARE(visible.size(), 2);
         QVERIFY(!app.monitor().panelVisible());
         QVERIFY(!window->isVisible());
 
         // Reopened: the same engine; Escape closes it.
-        watcher.call(item, itemPath, itemInterface, u"Activate"_qs, {click.x(), click.y()});
+        watcher.callItem(item, u"Activate"_qs, {click.x(), click.y()});
         QTRY_VERIFY(face.panelOpen());
         QCOMPARE(&QmlHost::engine(), engine);
         QVERIFY(QTest::qWaitForWindowActive(window));
@@ -188,9 +184,7 @@ private slots:
         ManualScheduler scheduler;
         DesktopApp app(options(scheduler));
         QTRY_COMPARE(watcher.registrations.size(), 1);
-        const QVariant noData = QVariant::fromValue(QDBusVariant(0));
-        watcher.call(app.item().serviceName(), u"/MenuBar"_qs, u"com.canonical.dbusmenu"_qs, u"Event"_qs,
-                     {1, u"clicked"_qs, noData, 0u});
+        watcher.menuEvent(app.item().serviceName(), int(DBusMenu::Action::openPanel));
         QTRY_VERIFY(app.quickFaceLoaded() && app.quickFace()->panelOpen());
         QVERIFY(!app.quickFace()->panelIsWindow());
         QVERIFY(app.monitor().panelVisible());
@@ -203,7 +197,6 @@ private slots:
         ManualScheduler scheduler;
         DesktopApp app(options(scheduler));
         QTRY_COMPARE(watcher.registrations.size(), 1);
-        const QVariant noData = QVariant::fromValue(QDBusVariant(0));
         auto prefsWindows = [] {
             int n = 0;
             for (QWindow *w : QGuiApplication::topLevelWindows())
@@ -211,8 +204,7 @@ private slots:
             return n;
         };
         for (int i = 0; i < 2; ++i) {
-            watcher.call(app.item().serviceName(), u"/MenuBar"_qs, u"com.canonical.dbusmenu"_qs, u"Event"_qs,
-                         {int(DBusMenu::Action::preferences), u"clicked"_qs, noData, 0u});
+            watcher.menuEvent(app.item().serviceName(), int(DBusMenu::Action::preferences));
             QTRY_COMPARE(prefsWindows(), 1);
         }
         // The panel stays closed.

@@ -21,10 +21,6 @@
 
 namespace {
 
-const QString itemPath = QStringLiteral("/StatusNotifierItem");
-const QString itemInterface = QStringLiteral("org.kde.StatusNotifierItem");
-const QString menuInterface = QStringLiteral("com.canonical.dbusmenu");
-
 // The model with fixed readings (CPU 7.4 %, memory 42.6 %) and the item.
 struct Rig {
     ManualScheduler scheduler;
@@ -42,9 +38,16 @@ struct Rig {
     }
     QString service() const { return item->serviceName(); }
     // How a watcher lists the item: its connection and object path.
-    QString registration() const
+    QString registration() const { return QDBusConnection::sessionBus().baseService() + u"/StatusNotifierItem"_qs; }
+
+    // Starts the item with `w` present and waits until it has registered;
+    // from then on `w` records what the item sends.
+    bool startWith(FakeWatcher &w)
     {
-        return QDBusConnection::sessionBus().baseService() + itemPath;
+        if (!item->start() || !QTest::qWaitFor([&] { return w.registrations.size() == 1; }))
+            return false;
+        w.follow(service());
+        return true;
     }
 };
 
@@ -56,12 +59,12 @@ T fromBus(const QVariant &v)
 
 QString label(FakeWatcher &w, const Rig &rig)
 {
-    return w.property(rig.service(), itemPath, itemInterface, QStringLiteral("XAyatanaLabel")).toString();
+    return w.itemProperty(rig.service(), u"XAyatanaLabel"_qs).toString();
 }
 
 QList<SniPixmap> pixmaps(FakeWatcher &w, const Rig &rig)
 {
-    return fromBus<QList<SniPixmap>>(w.property(rig.service(), itemPath, itemInterface, QStringLiteral("IconPixmap")));
+    return fromBus<QList<SniPixmap>>(w.itemProperty(rig.service(), u"IconPixmap"_qs));
 }
 
 // The pixel at (x, y) as the bus carries it: A, R, G, B bytes.
@@ -120,15 +123,10 @@ private slots:
         QVERIFY(first->owned());
         QTRY_COMPARE(first->registrations, QStringList{rig.registration()});
         QTRY_VERIFY(rig.item->hostPresent());
-        QCOMPARE(first->property(rig.service(), itemPath, itemInterface, QStringLiteral("Id")).toString(),
-                 QStringLiteral("sulkbox"));
-        QCOMPARE(first->property(rig.service(), itemPath, itemInterface, QStringLiteral("Status")).toString(),
-                 QStringLiteral("Active"));
-        QCOMPARE(first->property(rig.service(), itemPath, itemInterface, QStringLiteral("ItemIsMenu")).toBool(), false);
-        QCOMPARE(first->property(rig.service(), itemPath, itemInterface, QStringLiteral("Menu"))
-                     .value<QDBusObjectPath>()
-                     .path(),
-                 QStringLiteral("/MenuBar"));
+        QCOMPARE(first->itemProperty(rig.service(), u"Id"_qs).toString(), u"sulkbox"_qs);
+        QCOMPARE(first->itemProperty(rig.service(), u"Status"_qs).toString(), u"Active"_qs);
+        QCOMPARE(first->itemProperty(rig.service(), u"ItemIsMenu"_qs).toBool(), false);
+        QCOMPARE(first->itemProperty(rig.service(), u"Menu"_qs).value<QDBusObjectPath>().path(), u"/MenuBar"_qs);
 
         // The shell restarts: the watcher goes away and a new one comes.
         first.reset();
@@ -155,9 +153,7 @@ private slots:
     {
         Rig rig;
         FakeWatcher w;
-        QVERIFY(rig.item->start());
-        QTRY_COMPARE(w.registrations.size(), 1);
-        w.follow(rig.service());
+        QVERIFY(rig.startWith(w));
         Localizer &loc = Localizer::shared();
 
         QCOMPARE(label(w, rig), MenuBarLabel::text(*rig.monitor, loc, true));
@@ -210,9 +206,7 @@ private slots:
     {
         Rig rig;
         FakeWatcher w;
-        QVERIFY(rig.item->start());
-        QTRY_COMPARE(w.registrations.size(), 1);
-        w.follow(rig.service());
+        QVERIFY(rig.startWith(w));
         QVERIFY(!rig.item->hostDrawsLabels()); // the test watcher is no GNOME Shell
 
         // Mood mode: the shown mood's emoji, in colour, at each size.
@@ -269,21 +263,19 @@ private slots:
     {
         Rig rig;
         FakeWatcher w;
-        QVERIFY(rig.item->start());
-        QTRY_COMPARE(w.registrations.size(), 1);
-        w.follow(rig.service());
+        QVERIFY(rig.startWith(w));
         rig.item->setLoadTextIntervalMs(60000);
         const Localizer &loc = Localizer::shared();
 
         // The loads alone wait for their interval (the mood stays: the
         // machine has just woken up)...
-        const QString before = w.property(rig.service(), itemPath, itemInterface, u"Title"_qs).toString();
+        const QString before = w.itemProperty(rig.service(), u"Title"_qs).toString();
         QVERIFY2(before.contains(u"CPU 7%"_qs), qPrintable(before));
         rig.samplers->cpu.total = 0.31;
         rig.monitor->tick();
         QTest::qWait(100);
         QCOMPARE(w.newTitles, 0);
-        QCOMPARE(w.property(rig.service(), itemPath, itemInterface, u"Title"_qs).toString(), before);
+        QCOMPARE(w.itemProperty(rig.service(), u"Title"_qs).toString(), before);
 
         // ...while a new mood goes at once, with the loads of the moment.
         rig.monitor->offerMood(Moods::soHot(95));
@@ -291,10 +283,10 @@ private slots:
         QCOMPARE(w.newToolTips, 1);
         const QString phrase = loc.t(LocKey::soHot);
         const QString reason = MenuBarLabel::reason(Moods::soHot(95), loc);
-        const QString title = w.property(rig.service(), itemPath, itemInterface, u"Title"_qs).toString();
+        const QString title = w.itemProperty(rig.service(), u"Title"_qs).toString();
         for (const QString &part : {phrase, reason, u"CPU 31%"_qs, u"Memory 43%"_qs})
             QVERIFY2(title.contains(part), qPrintable(title + u" lacks "_qs + part));
-        const auto tip = fromBus<SniToolTip>(w.property(rig.service(), itemPath, itemInterface, u"ToolTip"_qs));
+        const auto tip = fromBus<SniToolTip>(w.itemProperty(rig.service(), u"ToolTip"_qs));
         QCOMPARE(tip.title, Moods::soHot(95).emoji() + u' ' + phrase);
         QVERIFY(tip.text.contains(reason.toHtmlEscaped()));
         QVERIFY(tip.text.contains(u"Memory 43%"_qs));
@@ -318,8 +310,7 @@ class TrayMenuTest : public QObject {
 private:
     MenuLayoutNode layout(FakeWatcher &w, const Rig &rig, uint *revision = nullptr)
     {
-        const QDBusMessage reply = w.call(rig.service(), u"/MenuBar"_qs, menuInterface, u"GetLayout"_qs,
-                                          {0, -1, QStringList()});
+        const QDBusMessage reply = w.callMenu(rig.service(), u"GetLayout"_qs, {0, -1, QStringList()});
         if (reply.type() != QDBusMessage::ReplyMessage || reply.arguments().size() != 2)
             return {};
         if (revision)
@@ -349,9 +340,7 @@ private slots:
     {
         Rig rig;
         FakeWatcher w;
-        QVERIFY(rig.item->start());
-        QTRY_COMPARE(w.registrations.size(), 1);
-        w.follow(rig.service());
+        QVERIFY(rig.startWith(w));
 
         uint before = 0;
         const MenuLayoutNode root = layout(w, rig, &before);
@@ -369,8 +358,7 @@ private slots:
         QCOMPARE(after, w.layoutRevisions.first());
 
         // Only the root's own node when no depth is asked for.
-        const QDBusMessage shallow = w.call(rig.service(), u"/MenuBar"_qs, menuInterface, u"GetLayout"_qs,
-                                            {0, 0, QStringList{u"label"_qs}});
+        const QDBusMessage shallow = w.callMenu(rig.service(), u"GetLayout"_qs, {0, 0, QStringList{u"label"_qs}});
         QCOMPARE(qdbus_cast<MenuLayoutNode>(shallow.arguments().at(1).value<QDBusArgument>()).children.size(), 0);
     }
 
@@ -378,39 +366,34 @@ private slots:
     {
         Rig rig;
         FakeWatcher w;
-        QVERIFY(rig.item->start());
-        QTRY_COMPARE(w.registrations.size(), 1);
+        QVERIFY(rig.startWith(w));
         QSignalSpy triggered(&rig.item->menu(), &DBusMenu::triggered);
 
-        const QVariant noData = QVariant::fromValue(QDBusVariant(QString()));
-        QDBusMessage reply = w.call(rig.service(), u"/MenuBar"_qs, menuInterface, u"Event"_qs,
-                                    {1, u"clicked"_qs, noData, 0u});
+        QDBusMessage reply = w.menuEvent(rig.service(), 1);
         QCOMPARE(reply.type(), QDBusMessage::ReplyMessage);
         QCOMPARE(triggered.size(), 1);
         QCOMPARE(triggered.at(0).at(0).value<DBusMenu::Action>(), DBusMenu::Action::openPanel);
 
         // Hover and open events are not choices; the separator is no choice.
-        w.call(rig.service(), u"/MenuBar"_qs, menuInterface, u"Event"_qs, {4, u"hovered"_qs, noData, 0u});
-        w.call(rig.service(), u"/MenuBar"_qs, menuInterface, u"Event"_qs, {3, u"clicked"_qs, noData, 0u});
+        w.menuEvent(rig.service(), 4, u"hovered"_qs);
+        w.menuEvent(rig.service(), 3);
         QCOMPARE(triggered.size(), 1);
-        w.call(rig.service(), u"/MenuBar"_qs, menuInterface, u"Event"_qs, {4, u"clicked"_qs, noData, 0u});
+        w.menuEvent(rig.service(), 4);
         QCOMPARE(triggered.size(), 2);
         QCOMPARE(triggered.at(1).at(0).value<DBusMenu::Action>(), DBusMenu::Action::quit);
 
-        reply = w.call(rig.service(), u"/MenuBar"_qs, menuInterface, u"Event"_qs, {42, u"clicked"_qs, noData, 0u});
+        reply = w.menuEvent(rig.service(), 42);
         QCOMPARE(reply.type(), QDBusMessage::ErrorMessage);
-        reply = w.call(rig.service(), u"/MenuBar"_qs, menuInterface, u"GetProperty"_qs, {42, u"label"_qs});
+        reply = w.callMenu(rig.service(), u"GetProperty"_qs, {42, u"label"_qs});
         QCOMPARE(reply.type(), QDBusMessage::ErrorMessage);
-        reply = w.call(rig.service(), u"/MenuBar"_qs, menuInterface, u"GetProperty"_qs, {2, u"label"_qs});
+        reply = w.callMenu(rig.service(), u"GetProperty"_qs, {2, u"label"_qs});
         QCOMPARE(reply.arguments().first().value<QDBusVariant>().variant().toString(), u"Preferences…"_qs);
-        reply = w.call(rig.service(), u"/MenuBar"_qs, menuInterface, u"GetLayout"_qs, {42, -1, QStringList()});
+        reply = w.callMenu(rig.service(), u"GetLayout"_qs, {42, -1, QStringList()});
         QCOMPARE(reply.type(), QDBusMessage::ErrorMessage);
 
         // A host that sends events in a group hears which ids were unknown.
-        QDBusMessage group = QDBusMessage::createMethodCall(rig.service(), u"/MenuBar"_qs, menuInterface,
-                                                            u"EventGroup"_qs);
-        group << QVariant::fromValue(QList<MenuEvent>{{2, u"clicked"_qs, QDBusVariant(0), 0}, {9, u"clicked"_qs, QDBusVariant(0), 0}});
-        reply = w.bus().call(group, QDBus::BlockWithGui, 5000);
+        const QList<MenuEvent> group = {{2, u"clicked"_qs, QDBusVariant(0), 0}, {9, u"clicked"_qs, QDBusVariant(0), 0}};
+        reply = w.callMenu(rig.service(), u"EventGroup"_qs, {QVariant::fromValue(group)});
         QCOMPARE(qdbus_cast<QList<int>>(reply.arguments().first().value<QDBusArgument>()), QList<int>{9});
         QCOMPARE(triggered.size(), 3);
         QCOMPARE(triggered.at(2).at(0).value<DBusMenu::Action>(), DBusMenu::Action::preferences);
