@@ -280,7 +280,7 @@ private slots:
         // ...while a new mood goes at once, with the loads of the moment.
         rig.monitor->offerMood(Moods::soHot(95));
         QTRY_COMPARE(w.newTitles, 1);
-        QCOMPARE(w.newToolTips, 1);
+        QTRY_COMPARE(w.newToolTips, 1);
         const QString phrase = loc.t(LocKey::soHot);
         const QString reason = MenuBarLabel::reason(Moods::soHot(95), loc);
         const QString title = w.itemProperty(rig.service(), u"Title"_qs).toString();
@@ -297,7 +297,7 @@ private slots:
         rig.samplers->cpu.total = 0.2;
         rig.monitor->tick();
         QTRY_COMPARE(w.newTitles, 3);
-        QCOMPARE(w.newToolTips, 3);
+        QTRY_COMPARE(w.newToolTips, 3);
         rig.monitor->tick();
         QTest::qWait(100);
         QCOMPARE(w.newTitles, 3);
