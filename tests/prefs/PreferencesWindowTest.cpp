@@ -3,79 +3,29 @@
 // follow; the launch-at-login switch shows the real autostart entry; the
 // About row and the update button.
 
-#include "FeedServer.h"
-#include "QuickDriver.h"
+#include "PrefsRig.h"
 
-#include "common/FakeSamplers.h"
-#include "common/QmlWarnings.h"
 #include "common/TestSupport.h"
 
 #include "app/desktop/AppVersion.h"
 #include "app/desktop/LoginItem.h"
-#include "app/desktop/Updater.h"
 #include "l10n/Fmt.h"
-#include "l10n/Localizer.h"
-#include "model/SystemMonitor.h"
-#include "settings/AppSettings.h"
 #include "settings/Settings.h"
 #include "ui/MenuBarLabel.h"
-#include "ui/common/DesktopActions.h"
-#include "ui/common/QmlHost.h"
-#include "ui/prefs/PreferencesWindow.h"
-#include "ui/prefs/UpdateWindow.h"
 
 #include <QFile>
 #include <QFileInfo>
-#include <QNetworkProxy>
 #include <QQmlComponent>
-#include <QQuickWindow>
 #include <QSignalSpy>
-#include <QTest>
 
-#include <memory>
+#include <cmath>
 
 using namespace QuickDriver;
 
 namespace {
 
-// The model on a hand-moved clock, the shared engine's context, and the
-// window under test.
-struct Rig {
-    ManualScheduler clock;
-    std::shared_ptr<FakeSamplers> samplers = std::make_shared<FakeSamplers>();
-    std::unique_ptr<SystemMonitor> monitor;
-    DesktopActions actions;
-    std::unique_ptr<Updater> updater;
-    std::unique_ptr<UpdateWindow> updates;
-    std::unique_ptr<PreferencesWindow> prefs;
-
-    Rig()
-    {
-        samplers->cpu.total = 0.42;
-        samplers->memory.pressure = 0.31;
-        monitor = std::make_unique<SystemMonitor>(samplers, clock);
-        QmlHost::configure(monitor.get(), &AppSettings::shared(), &Localizer::shared(), &actions);
-        updater = std::make_unique<Updater>(clock);
-        updates = std::make_unique<UpdateWindow>(*updater);
-        prefs = std::make_unique<PreferencesWindow>(*monitor, *updates);
-    }
-    ~Rig()
-    {
-        prefs.reset();
-        updates.reset();
-        QmlHost::reset();
-        flushSceneGraph();
-    }
-
-    QQuickWindow *open()
-    {
-        prefs->open();
-        QQuickWindow *w = prefs->window();
-        if (w && !QTest::qWaitForWindowExposed(w))
-            qWarning("the preferences window was not exposed");
-        return w;
-    }
-
+// The windows, and the label the top bar would show.
+struct Rig : PrefsRig {
     QString label() const { return MenuBarLabel::text(*monitor, Localizer::shared()); }
 };
 
@@ -114,12 +64,7 @@ class PreferencesWindowTest : public QObject {
     Q_OBJECT
 
 private slots:
-    void initTestCase()
-    {
-        QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
-        QNetworkProxy::setApplicationProxy(QNetworkProxy::NoProxy);
-        QmlWarnings::catchAll();
-    }
+    void initTestCase() { PrefsRig::setUpCase(); }
     void init()
     {
         TestSupport::clearSettings();
@@ -137,7 +82,7 @@ private slots:
     {
         Rig rig;
         QVERIFY(!QmlHost::exists());
-        QQuickWindow *w = rig.open();
+        QQuickWindow *w = rig.openPreferences();
         QVERIFY(w);
         QVERIFY(QmlHost::exists());
         QCOMPARE(w->size(), QSize(380, 540));
@@ -159,7 +104,7 @@ private slots:
     void sectionsAndModulesInOrder()
     {
         Rig rig;
-        QQuickWindow *w = rig.open();
+        QQuickWindow *w = rig.openPreferences();
         QVERIFY(w);
         const auto headers = labelsWithText(w, {u"General"_qs, u"Personality"_qs, u"Modules in panel"_qs, u"About"_qs});
         for (int i = 0; i < headers.size(); ++i) {
@@ -185,7 +130,7 @@ private slots:
     void twoSecondsStoresTwoAndReArmsAtTheNextTick()
     {
         Rig rig;
-        QQuickWindow *w = rig.open();
+        QQuickWindow *w = rig.openPreferences();
         QCOMPARE(rig.monitor->timerIntervalMs(), 1000);
         QCOMPARE(find(w, u"refreshPicker"_qs)->property("displayText").toString(), u"1 second"_qs);
         choose(w, u"refreshPicker"_qs, 1);
@@ -206,7 +151,7 @@ private slots:
     void fahrenheitFollowsEverywhere()
     {
         Rig rig;
-        QQuickWindow *w = rig.open();
+        QQuickWindow *w = rig.openPreferences();
         QCOMPARE(Fmt::temp(50), u"50°"_qs);
         choose(w, u"temperaturePicker"_qs, 1);
         QCOMPARE(Settings::flag(Settings::Key::useFahrenheit), true);
@@ -220,7 +165,7 @@ private slots:
     {
         Rig rig;
         rig.monitor->setReaction(Moods::glovesOff());
-        QQuickWindow *w = rig.open();
+        QQuickWindow *w = rig.openPreferences();
         QQuickItem *picker = find(w, u"languagePicker"_qs);
         QCOMPARE(picker->property("currentIndex").toInt(), int(AppLanguage::en));
         // Every language, in order, under its own name; "Auto" in the interface's.
@@ -253,7 +198,7 @@ private slots:
     void showMoodSwitchesTheLabel()
     {
         Rig rig;
-        QQuickWindow *w = rig.open();
+        QQuickWindow *w = rig.openPreferences();
         QVERIFY(checkedOf(w, u"showMoodSwitch"_qs));
         const QString mood = rig.label();
         QVERIFY(mood.startsWith(rig.monitor->mood().emoji()));
@@ -268,7 +213,7 @@ private slots:
     void petNameStoresEveryKeystrokeAndEmptyShowsThePlaceholder()
     {
         Rig rig;
-        QQuickWindow *w = rig.open();
+        QQuickWindow *w = rig.openPreferences();
         QTRY_VERIFY(w->isActive());
         QQuickItem *field = find(w, u"petNameField"_qs);
         QCOMPARE(field->property("placeholderText").toString(), u"e.g. Pixel"_qs);
@@ -304,7 +249,7 @@ private slots:
     void savageModeReactionsKeepTheirFullFourSeconds()
     {
         Rig rig;
-        QQuickWindow *w = rig.open();
+        QQuickWindow *w = rig.openPreferences();
         QVERIFY(!rig.monitor->hasReaction());
         click(w, u"savageModeSwitch"_qs);
         QCOMPARE(Settings::flag(Settings::Key::savageMode), true);
@@ -336,7 +281,7 @@ private slots:
     void everyModuleSwitchWritesItsOwnKeyAndAllMayBeOff()
     {
         Rig rig;
-        QQuickWindow *w = rig.open();
+        QQuickWindow *w = rig.openPreferences();
         const QList<std::pair<QString, Settings::Key>> modules = {
             {u"showCPUSwitch"_qs, Settings::Key::showCPU},         {u"showMemorySwitch"_qs, Settings::Key::showMemory},
             {u"showProcessesSwitch"_qs, Settings::Key::showProcesses}, {u"showNetworkSwitch"_qs, Settings::Key::showNetwork},
@@ -383,7 +328,7 @@ private slots:
     void launchAtLoginShowsTheRealEntry()
     {
         Rig rig;
-        QQuickWindow *w = rig.open();
+        QQuickWindow *w = rig.openPreferences();
         QVERIFY(!checkedOf(w, u"launchAtLoginSwitch"_qs));
         click(w, u"launchAtLoginSwitch"_qs);
         QVERIFY(QFileInfo::exists(LoginItem::entryPath()));
@@ -413,7 +358,7 @@ private slots:
         QCOMPARE(AppVersion::text(u"1.4"_qs, QString()), u"1.4 (—)"_qs);
         QCOMPARE(AppVersion::text(QString(), u" "_qs), u"— (—)"_qs);
         Rig rig;
-        QQuickWindow *w = rig.open();
+        QQuickWindow *w = rig.openPreferences();
         QCOMPARE(textOf(find(w, u"versionLabel"_qs)), u"Version "_qs + AppVersion::text());
         QVERIFY(AppVersion::text().startsWith(QStringLiteral(SULKBOX_VERSION)));
         // The icon shows when the build has one; either way nothing complains.

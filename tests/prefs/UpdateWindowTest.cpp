@@ -3,27 +3,11 @@
 // the quiet automatic check that only speaks of a newer version.
 
 #include "FeedServer.h"
-#include "QuickDriver.h"
+#include "PrefsRig.h"
 
-#include "common/FakeSamplers.h"
-#include "common/QmlWarnings.h"
 #include "common/TestSupport.h"
 
-#include "app/desktop/Updater.h"
-#include "l10n/Localizer.h"
-#include "model/SystemMonitor.h"
-#include "settings/AppSettings.h"
-#include "ui/common/DesktopActions.h"
-#include "ui/common/QmlHost.h"
-#include "ui/prefs/PreferencesWindow.h"
-#include "ui/prefs/UpdateWindow.h"
-
 #include <QDesktopServices>
-#include <QNetworkProxy>
-#include <QQuickWindow>
-#include <QTest>
-
-#include <memory>
 
 using namespace QuickDriver;
 
@@ -53,31 +37,15 @@ public slots:
 class UpdateWindowTest : public QObject {
     Q_OBJECT
 
-    struct Rig {
-        ManualScheduler clock;
-        std::unique_ptr<SystemMonitor> monitor;
-        DesktopActions actions;
+    // This build is 1.0; a feed that has not answered in half a second has
+    // failed.
+    struct Rig : PrefsRig {
         FeedServer server;
-        std::unique_ptr<Updater> updater;
-        std::unique_ptr<UpdateWindow> updates;
-        std::unique_ptr<PreferencesWindow> prefs;
 
         Rig()
         {
-            monitor = std::make_unique<SystemMonitor>(std::make_shared<FakeSamplers>(), clock);
-            QmlHost::configure(monitor.get(), &AppSettings::shared(), &Localizer::shared(), &actions);
-            updater = std::make_unique<Updater>(clock);
             updater->setCurrentVersion(u"1.0"_qs);
             updater->setLimits(Updater::defaultMaxBytes, 500, Updater::defaultMaxRedirects);
-            updates = std::make_unique<UpdateWindow>(*updater);
-            prefs = std::make_unique<PreferencesWindow>(*monitor, *updates);
-        }
-        ~Rig()
-        {
-            prefs.reset();
-            updates.reset();
-            QmlHost::reset();
-            flushSceneGraph();
         }
         void feedAt(const QString &path) { AppSettings::shared().setUpdateFeedURL(server.url(path).toString()); }
 
@@ -85,9 +53,8 @@ class UpdateWindowTest : public QObject {
         // for the result window to show `state`.
         QQuickWindow *checkFromPreferences(const QString &state)
         {
-            prefs->open();
-            QQuickWindow *w = prefs->window();
-            if (!w || !QTest::qWaitForWindowExposed(w))
+            QQuickWindow *w = openPreferences();
+            if (!w)
                 return nullptr;
             click(w, u"checkForUpdatesButton"_qs);
             if (!QTest::qWaitFor([&] { return updates->state() == state && updates->isShowing(); }, 10000))
@@ -110,11 +77,9 @@ class UpdateWindowTest : public QObject {
 private slots:
     void initTestCase()
     {
-        QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
-        QNetworkProxy::setApplicationProxy(QNetworkProxy::NoProxy);
+        PrefsRig::setUpCase();
         QDesktopServices::setUrlHandler(u"https"_qs, &m_browser, "open");
         QDesktopServices::setUrlHandler(u"http"_qs, &m_browser, "open");
-        QmlWarnings::catchAll();
     }
     void cleanupTestCase()
     {

@@ -8,28 +8,15 @@
 // never touched: everything runs in a temporary configuration folder.
 
 #include "../FeedServer.h"
-#include "../QuickDriver.h"
+#include "../PrefsRig.h"
 
-#include "common/FakeSamplers.h"
-
-#include "app/desktop/Updater.h"
-#include "l10n/Localizer.h"
-#include "model/SystemMonitor.h"
-#include "settings/AppSettings.h"
-#include "ui/common/DesktopActions.h"
-#include "ui/common/QmlHost.h"
 #include "ui/prefs/ColorScheme.h"
-#include "ui/prefs/PreferencesWindow.h"
-#include "ui/prefs/UpdateWindow.h"
 
 #include <QDir>
 #include <QGuiApplication>
-#include <QNetworkProxy>
 #include <QQuickItem>
-#include <QQuickWindow>
 #include <QSettings>
 #include <QTemporaryDir>
-#include <QTest>
 
 #include <cstdio>
 
@@ -76,18 +63,11 @@ int main(int argc, char **argv)
     const QString out = app.arguments().size() > 1 ? app.arguments().at(1) : QStringLiteral("gallery");
     QDir().mkpath(out);
 
-    ManualScheduler clock;
-    auto samplers = std::make_shared<FakeSamplers>();
-    SystemMonitor monitor(samplers, clock);
-    DesktopActions actions;
-    QmlHost::configure(&monitor, &AppSettings::shared(), &Localizer::shared(), &actions);
-
     FeedServer server;
     server.serve(QStringLiteral("/appcast.xml"), sampleFeed());
-    Updater updater(clock);
-    updater.setCurrentVersion(QStringLiteral("1.0"));
-    UpdateWindow updates(updater);
-    PreferencesWindow prefs(monitor, updates);
+    PrefsRig rig;
+    Updater &updater = *rig.updater;
+    UpdateWindow &updates = *rig.updates;
 
     bool ok = true;
     for (bool dark : {false, true}) {
@@ -98,8 +78,7 @@ int main(int argc, char **argv)
             const QString name = languageRawText(lang);
             // No feed: the About row says where updates come from.
             AppSettings::shared().setUpdateFeedURL(QString());
-            prefs.open();
-            QQuickWindow *w = prefs.window();
+            QQuickWindow *w = rig.openPreferences();
             if (!w)
                 return 1;
             QMetaObject::invokeMethod(w, "scrollToTop");
