@@ -19,6 +19,7 @@
 #include "ui/common/DesktopActions.h"
 #include "ui/common/DesktopContext.h"
 #include "ui/panel/Icon.h"
+#include "ui/prefs/ColorScheme.h"
 
 #include <QDir>
 #include <QElapsedTimer>
@@ -191,38 +192,6 @@ private:
     int m_t = 0;
 };
 
-QPalette lightPalette()
-{
-    QPalette p;
-    p.setColor(QPalette::Window, QColor(0xf6, 0xf5, 0xf4));
-    p.setColor(QPalette::WindowText, QColor(0x1e, 0x1e, 0x1e));
-    p.setColor(QPalette::Base, Qt::white);
-    p.setColor(QPalette::Text, QColor(0x1e, 0x1e, 0x1e));
-    p.setColor(QPalette::Button, QColor(0xed, 0xec, 0xeb));
-    p.setColor(QPalette::ButtonText, QColor(0x1e, 0x1e, 0x1e));
-    p.setColor(QPalette::Highlight, QColor(0x35, 0x84, 0xe4));
-    p.setColor(QPalette::HighlightedText, Qt::white);
-    p.setColor(QPalette::Mid, QColor(0xc0, 0xbf, 0xbc));
-    p.setColor(QPalette::Dark, QColor(0x9a, 0x99, 0x96));
-    return p;
-}
-
-QPalette darkPalette()
-{
-    QPalette p;
-    p.setColor(QPalette::Window, QColor(0x24, 0x24, 0x24));
-    p.setColor(QPalette::WindowText, QColor(0xf2, 0xf2, 0xf2));
-    p.setColor(QPalette::Base, QColor(0x1e, 0x1e, 0x1e));
-    p.setColor(QPalette::Text, QColor(0xf2, 0xf2, 0xf2));
-    p.setColor(QPalette::Button, QColor(0x30, 0x30, 0x30));
-    p.setColor(QPalette::ButtonText, QColor(0xf2, 0xf2, 0xf2));
-    p.setColor(QPalette::Highlight, QColor(0x35, 0x84, 0xe4));
-    p.setColor(QPalette::HighlightedText, Qt::white);
-    p.setColor(QPalette::Mid, QColor(0x4a, 0x4a, 0x4a));
-    p.setColor(QPalette::Dark, QColor(0x1a, 0x1a, 0x1a));
-    return p;
-}
-
 // Waits for the springs and fades (all well under a second).
 void settle(QQuickWindow &window, int ms = 700)
 {
@@ -244,7 +213,7 @@ struct Case {
 
 QImage renderCase(const Case &c, AppLanguage lang, const QString &fixtures)
 {
-    QGuiApplication::setPalette(c.dark ? darkPalette() : lightPalette());
+    QGuiApplication::setPalette(ColorScheme::ownPalette(c.dark));
     Localizer::shared().setLanguage(lang);
     AppSettings::shared().setSavageMode(c.scene == Scene::savageRoast);
     AppSettings::shared().setPetName(c.machine == Machine::desktop ? u"Pixel"_qs : QString());
@@ -346,7 +315,7 @@ QImage renderCase(const Case &c, AppLanguage lang, const QString &fixtures)
 // checks every phrase and reason for fit and every face for its glyph.
 QImage moodSheet(AppLanguage lang, const QString &fixtures)
 {
-    QGuiApplication::setPalette(lightPalette());
+    QGuiApplication::setPalette(ColorScheme::ownPalette(false));
     Localizer::shared().setLanguage(lang);
     AppSettings::shared().setSavageMode(false);
     AppSettings::shared().setPetName(QString());
@@ -424,8 +393,9 @@ QImage iconSheet()
     QImage sheet(cell * int(names.size()), cell * 2, QImage::Format_RGB32);
     QPainter p(&sheet);
     for (int row = 0; row < 2; ++row) {
-        const QColor bg = row == 0 ? QColor(0xf6, 0xf5, 0xf4) : QColor(0x24, 0x24, 0x24);
-        const QColor fg = row == 0 ? QColor(0x1e, 0x1e, 0x1e) : QColor(0xf2, 0xf2, 0xf2);
+        const QPalette palette = ColorScheme::ownPalette(row == 1);
+        const QColor bg = palette.color(QPalette::Window);
+        const QColor fg = palette.color(QPalette::WindowText);
         p.fillRect(0, row * cell, sheet.width(), cell, bg);
         for (int i = 0; i < names.size(); ++i) {
             const QString name = QFileInfo(names[i]).completeBaseName();

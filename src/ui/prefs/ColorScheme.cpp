@@ -29,61 +29,42 @@ QColor mix(const QColor &a, const QColor &b, double t)
                             float(a.blueF() * (1 - t) + b.blueF() * t));
 }
 
-QPalette lightPalette()
-{
-    QPalette p;
-    const QColor window(0xef, 0xef, 0xef), text(0x1d, 0x1d, 0x1f), base(0xff, 0xff, 0xff);
-    p.setColor(QPalette::Window, window);
-    p.setColor(QPalette::WindowText, text);
-    p.setColor(QPalette::Base, base);
-    p.setColor(QPalette::AlternateBase, QColor(0xf5, 0xf5, 0xf5));
-    p.setColor(QPalette::Text, text);
-    p.setColor(QPalette::Button, QColor(0xf6, 0xf6, 0xf6));
-    p.setColor(QPalette::ButtonText, text);
-    p.setColor(QPalette::BrightText, Qt::white);
-    p.setColor(QPalette::Light, Qt::white);
-    p.setColor(QPalette::Midlight, QColor(0xe3, 0xe3, 0xe3));
-    p.setColor(QPalette::Mid, QColor(0xb8, 0xb8, 0xb8));
-    p.setColor(QPalette::Dark, QColor(0x9f, 0x9f, 0x9f));
-    p.setColor(QPalette::Shadow, QColor(0x76, 0x76, 0x76));
-    p.setColor(QPalette::Highlight, QColor(0x30, 0x8c, 0xc6));
-    p.setColor(QPalette::HighlightedText, Qt::white);
-    p.setColor(QPalette::Link, QColor(0x1a, 0x6f, 0xc4));
-    p.setColor(QPalette::PlaceholderText, QColor(0x8e, 0x8e, 0x93));
-    p.setColor(QPalette::ToolTipBase, QColor(0xff, 0xff, 0xdc));
-    p.setColor(QPalette::ToolTipText, Qt::black);
-    p.setColor(QPalette::Disabled, QPalette::Text, QColor(0xa0, 0xa0, 0xa0));
-    p.setColor(QPalette::Disabled, QPalette::WindowText, QColor(0xa0, 0xa0, 0xa0));
-    p.setColor(QPalette::Disabled, QPalette::ButtonText, QColor(0xa0, 0xa0, 0xa0));
-    return p;
-}
+// The colours of one of sulkbox's palettes; roles that share a colour take it
+// from the same field.
+struct Tones {
+    QColor window, text, base, alternateBase, button, light, midlight, mid, dark, shadow, highlight, link,
+        placeholderText, toolTipBase, toolTipText, disabledText;
+};
 
-QPalette darkPalette()
+const Tones lightTones = {0xefefefu, 0x1d1d1fu, 0xffffffu, 0xf5f5f5u, 0xf6f6f6u, 0xffffffu, 0xe3e3e3u, 0xb8b8b8u,
+                          0x9f9f9fu, 0x767676u, 0x308cc6u, 0x1a6fc4u, 0x8e8e93u, 0xffffdcu, 0x000000u, 0xa0a0a0u};
+const Tones darkTones = {0x242426u, 0xeaeaecu, 0x303033u, 0x38383bu, 0x3a3a3du, 0x505054u, 0x444447u, 0x2a2a2cu,
+                         0x1c1c1eu, 0x0c0c0du, 0x2f7fc9u, 0x5aa9f5u, 0x8a8a8fu, 0x3a3a3du, 0xeaeaecu, 0x707074u};
+
+QPalette paletteOf(const Tones &t)
 {
     QPalette p;
-    const QColor window(0x24, 0x24, 0x26), text(0xea, 0xea, 0xec), base(0x30, 0x30, 0x33);
-    p.setColor(QPalette::Window, window);
-    p.setColor(QPalette::WindowText, text);
-    p.setColor(QPalette::Base, base);
-    p.setColor(QPalette::AlternateBase, QColor(0x38, 0x38, 0x3b));
-    p.setColor(QPalette::Text, text);
-    p.setColor(QPalette::Button, QColor(0x3a, 0x3a, 0x3d));
-    p.setColor(QPalette::ButtonText, text);
+    p.setColor(QPalette::Window, t.window);
+    p.setColor(QPalette::WindowText, t.text);
+    p.setColor(QPalette::Base, t.base);
+    p.setColor(QPalette::AlternateBase, t.alternateBase);
+    p.setColor(QPalette::Text, t.text);
+    p.setColor(QPalette::Button, t.button);
+    p.setColor(QPalette::ButtonText, t.text);
     p.setColor(QPalette::BrightText, Qt::white);
-    p.setColor(QPalette::Light, QColor(0x50, 0x50, 0x54));
-    p.setColor(QPalette::Midlight, QColor(0x44, 0x44, 0x47));
-    p.setColor(QPalette::Mid, QColor(0x2a, 0x2a, 0x2c));
-    p.setColor(QPalette::Dark, QColor(0x1c, 0x1c, 0x1e));
-    p.setColor(QPalette::Shadow, QColor(0x0c, 0x0c, 0x0d));
-    p.setColor(QPalette::Highlight, QColor(0x2f, 0x7f, 0xc9));
+    p.setColor(QPalette::Light, t.light);
+    p.setColor(QPalette::Midlight, t.midlight);
+    p.setColor(QPalette::Mid, t.mid);
+    p.setColor(QPalette::Dark, t.dark);
+    p.setColor(QPalette::Shadow, t.shadow);
+    p.setColor(QPalette::Highlight, t.highlight);
     p.setColor(QPalette::HighlightedText, Qt::white);
-    p.setColor(QPalette::Link, QColor(0x5a, 0xa9, 0xf5));
-    p.setColor(QPalette::PlaceholderText, QColor(0x8a, 0x8a, 0x8f));
-    p.setColor(QPalette::ToolTipBase, QColor(0x3a, 0x3a, 0x3d));
-    p.setColor(QPalette::ToolTipText, text);
-    p.setColor(QPalette::Disabled, QPalette::Text, QColor(0x70, 0x70, 0x74));
-    p.setColor(QPalette::Disabled, QPalette::WindowText, QColor(0x70, 0x70, 0x74));
-    p.setColor(QPalette::Disabled, QPalette::ButtonText, QColor(0x70, 0x70, 0x74));
+    p.setColor(QPalette::Link, t.link);
+    p.setColor(QPalette::PlaceholderText, t.placeholderText);
+    p.setColor(QPalette::ToolTipBase, t.toolTipBase);
+    p.setColor(QPalette::ToolTipText, t.toolTipText);
+    for (QPalette::ColorRole role : {QPalette::Text, QPalette::WindowText, QPalette::ButtonText})
+        p.setColor(QPalette::Disabled, role, t.disabledText);
     return p;
 }
 
@@ -178,7 +159,12 @@ QPalette ColorScheme::palette(bool dark)
     // The platform theme's palette wins when it is of the wanted kind.
     if (paletteIsDark(platform) == dark)
         return platform;
-    return dark ? darkPalette() : lightPalette();
+    return ownPalette(dark);
+}
+
+QPalette ColorScheme::ownPalette(bool dark)
+{
+    return paletteOf(dark ? darkTones : lightTones);
 }
 
 QVariantMap ColorScheme::colors() const

@@ -37,6 +37,8 @@ public:
     // The Fusion palette for light or dark: the platform's own palette when
     // it is of that kind, else sulkbox's.
     static QPalette palette(bool dark);
+    // sulkbox's own palette for light or dark, whatever the platform's.
+    static QPalette ownPalette(bool dark);
 
     // The portal's color-scheme value: 1 asks for dark, 2 for light, 0 has no wish.
     void setPortalValue(uint value);
