@@ -4,9 +4,15 @@
 #include "l10n/Localizer.h"
 #include "model/SystemMonitor.h"
 #include "personality/Mood.h"
+#include "personality/PokeTracker.h"
 #include "personality/Roasts.h"
 #include "settings/AppSettings.h"
-#include "ui/panel/PanelTypes.h"
+#include "ui/panel/BannerModel.h"
+#include "ui/panel/BarsView.h"
+#include "ui/panel/HandCursor.h"
+#include "ui/panel/Icon.h"
+#include "ui/panel/MemoryCleanup.h"
+#include "ui/panel/Sparkline.h"
 
 #include <QQmlEngine>
 
@@ -27,7 +33,14 @@ void registerAll()
     qmlRegisterUncreatableType<SystemMonitor>(uri, 1, 0, "SystemMonitor", QStringLiteral("the one model"));
     qmlRegisterUncreatableType<AppSettings>(uri, 1, 0, "AppSettings", QStringLiteral("AppSettings::shared()"));
     qmlRegisterUncreatableType<Localizer>(uri, 1, 0, "Localizer", QStringLiteral("Localizer::shared()"));
-    PanelTypes::registerAll();
+    // The panel's own items: the charts, the icon, and the banner, clean-up
+    // and cursor helpers.
+    qmlRegisterType<Sparkline>(uri, 1, 0, "Sparkline");
+    qmlRegisterType<BarsView>(uri, 1, 0, "BarsView");
+    qmlRegisterType<Icon>(uri, 1, 0, "Icon");
+    qmlRegisterType<BannerModel>(uri, 1, 0, "BannerModel");
+    qmlRegisterType<MemoryCleanup>(uri, 1, 0, "MemoryCleanup");
+    qmlRegisterType<HandCursor>(uri, 1, 0, "HandCursor");
 }
 
 } // namespace QmlTypes
