@@ -1,6 +1,7 @@
 #include "ui/panel/BarsView.h"
 
 #include "ui/common/QmlFormat.h"
+#include "ui/panel/Repaint.h"
 
 #include <QPainter>
 
@@ -34,38 +35,22 @@ QList<QRectF> BarsView::bars(const QList<qreal> &values, qreal w, qreal h, qreal
 
 void BarsView::setValues(const QList<qreal> &values)
 {
-    if (values == m_values)
-        return;
-    m_values = values;
-    emit valuesChanged();
-    update();
+    setAndRepaint(this, m_values, values, &BarsView::valuesChanged);
 }
 
 void BarsView::setSpacing(qreal spacing)
 {
-    if (spacing == m_spacing)
-        return;
-    m_spacing = spacing;
-    emit spacingChanged();
-    update();
+    setAndRepaint(this, m_spacing, spacing, &BarsView::spacingChanged);
 }
 
 void BarsView::setLoadColors(bool on)
 {
-    if (on == m_loadColors)
-        return;
-    m_loadColors = on;
-    emit colorsChanged();
-    update();
+    setAndRepaint(this, m_loadColors, on, &BarsView::colorsChanged);
 }
 
 void BarsView::setColor(const QColor &color)
 {
-    if (color == m_color)
-        return;
-    m_color = color;
-    emit colorsChanged();
-    update();
+    setAndRepaint(this, m_color, color, &BarsView::colorsChanged);
 }
 
 void BarsView::paint(QPainter *painter)

@@ -1,5 +1,7 @@
 #include "ui/panel/Icon.h"
 
+#include "ui/panel/Repaint.h"
+
 #include <QFile>
 #include <QHash>
 #include <QPainter>
@@ -56,20 +58,12 @@ QImage Icon::render(const QString &name, int pixels, const QColor &color)
 
 void Icon::setName(const QString &name)
 {
-    if (name == m_name)
-        return;
-    m_name = name;
-    emit nameChanged();
-    update();
+    setAndRepaint(this, m_name, name, &Icon::nameChanged);
 }
 
 void Icon::setColor(const QColor &color)
 {
-    if (color == m_color)
-        return;
-    m_color = color;
-    emit colorChanged();
-    update();
+    setAndRepaint(this, m_color, color, &Icon::colorChanged);
 }
 
 bool Icon::valid() const

@@ -1,5 +1,7 @@
 #include "ui/panel/Sparkline.h"
 
+#include "ui/panel/Repaint.h"
+
 #include <QLinearGradient>
 #include <QPainter>
 #include <QPainterPath>
@@ -15,6 +17,15 @@ qreal clean(qreal v)
     return std::isfinite(v) ? v : 0.0;
 }
 
+// The largest reading, 0 when there are none.
+qreal largest(const QList<qreal> &values)
+{
+    qreal best = values.isEmpty() ? 0.0 : clean(values.first());
+    for (qreal v : values)
+        best = std::max(best, clean(v));
+    return best;
+}
+
 } // namespace
 
 Sparkline::Sparkline(QQuickItem *parent)
@@ -26,13 +37,10 @@ Sparkline::Sparkline(QQuickItem *parent)
 qreal Sparkline::upperBound(const QList<qreal> &values, qreal maxValue)
 {
     qreal upper = 1.0;
-    if (maxValue > 0 && std::isfinite(maxValue)) {
+    if (maxValue > 0 && std::isfinite(maxValue))
         upper = maxValue;
-    } else if (!values.isEmpty()) {
-        upper = clean(values.first());
-        for (qreal v : values)
-            upper = std::max(upper, clean(v));
-    }
+    else if (!values.isEmpty())
+        upper = largest(values);
     return std::max(upper, 0.0001);
 }
 
@@ -60,57 +68,32 @@ QList<QPointF> Sparkline::points(const QList<qreal> &values, qreal maxValue, qre
 
 void Sparkline::setValues(const QList<qreal> &values)
 {
-    if (values == m_values)
-        return;
-    m_values = values;
-    emit valuesChanged();
-    update();
+    setAndRepaint(this, m_values, values, &Sparkline::valuesChanged);
 }
 
 void Sparkline::setColor(const QColor &color)
 {
-    if (color == m_color)
-        return;
-    m_color = color;
-    emit colorChanged();
-    update();
+    setAndRepaint(this, m_color, color, &Sparkline::colorChanged);
 }
 
 void Sparkline::setFill(bool fill)
 {
-    if (fill == m_fill)
-        return;
-    m_fill = fill;
-    emit fillChanged();
-    update();
+    setAndRepaint(this, m_fill, fill, &Sparkline::fillChanged);
 }
 
 void Sparkline::setMaxValue(qreal maxValue)
 {
-    if (maxValue == m_maxValue)
-        return;
-    m_maxValue = maxValue;
-    emit maxValueChanged();
-    update();
+    setAndRepaint(this, m_maxValue, maxValue, &Sparkline::maxValueChanged);
 }
 
 void Sparkline::setLineWidth(qreal width)
 {
-    if (width == m_lineWidth)
-        return;
-    m_lineWidth = width;
-    emit lineWidthChanged();
-    update();
+    setAndRepaint(this, m_lineWidth, width, &Sparkline::lineWidthChanged);
 }
 
 qreal Sparkline::peak() const
 {
-    if (m_values.isEmpty())
-        return 0;
-    qreal best = clean(m_values.first());
-    for (qreal v : m_values)
-        best = std::max(best, clean(v));
-    return best;
+    return largest(m_values);
 }
 
 void Sparkline::paint(QPainter *painter)
