@@ -13,6 +13,7 @@
 # DIR/callgrind.FORMAT for callgrind_annotate.
 set -euo pipefail
 cd "$(dirname "$0")/.."
+source bench/measure.sh
 
 exe=build/src/sulkbox
 ticks=27
@@ -33,15 +34,8 @@ while (($#)); do
 done
 ((${#formats[@]})) || formats=(plain i3bar waybar)
 command -v valgrind >/dev/null || { echo "valgrind is not installed (apt-get install valgrind)" >&2; exit 1; }
-[[ -x $exe ]] || { echo "no executable at $exe; build the sulkbox target first" >&2; exit 1; }
-
-work=$(mktemp -d)
-pid=
-cleanup() {
-    [[ -n $pid ]] && kill "$pid" 2>/dev/null && wait "$pid" 2>/dev/null
-    rm -rf "$work"
-}
-trap cleanup EXIT
+need_exe "$exe"
+bench_work
 
 # A private settings file: a half-second interval (the per-tick work is the
 # same at any interval) and the label mode asked for.
@@ -50,7 +44,6 @@ printf '[General]\nrefreshInterval=0.5\nmoodEnabled=%s\n' "$mood" >"$work/config
 interval=0.5
 settle=24 # 12 s: past the 8 s greeting and the first slow sample
 
-lines() { wc -l <"$work/out"; }
 # Waits until the output has at least $1 lines, then half an interval more.
 waitLines() {
     local deadline=$((SECONDS + 120))

@@ -17,6 +17,8 @@
 #     Qt and ICU libraries it maps (QtCore only: no GUI library).
 set -euo pipefail
 cd "$(dirname "$0")/.."
+source tests/e2e/session.sh
+source bench/measure.sh
 SECONDS_MEASURED=${SULKBOX_BENCH_SECONDS:-60}
 
 if [[ "${1:-}" != "--in-session" ]]; then
@@ -25,25 +27,9 @@ if [[ "${1:-}" != "--in-session" ]]; then
     for f in "$BUILD/src/sulkbox" "$BUILD/src/sulkbox-desktop" "$BUILD/tests/traywatcher"; do
         [[ -x "$f" ]] || { echo "missing $f: cmake --build $BUILD --target sulkbox sulkbox-desktop traywatcher" >&2; exit 1; }
     done
-    for tool in Xvfb dbus-run-session gdbus; do
-        command -v "$tool" >/dev/null || { echo "missing $tool (scripts/deps.sh --test)" >&2; exit 1; }
-    done
-    work=$(mktemp -d)
-    cleanup() {
-        [[ -n "${XVFB_PID:-}" ]] && kill "$XVFB_PID" 2>/dev/null || true
-        wait 2>/dev/null || true
-        rm -rf "$work"
-    }
-    trap cleanup EXIT
-    export HOME="$work/home" XDG_RUNTIME_DIR="$work/runtime"
-    export XDG_CONFIG_HOME="$HOME/.config" XDG_CACHE_HOME="$HOME/.cache"
-    mkdir -p "$HOME" "$XDG_RUNTIME_DIR"
-    chmod 700 "$XDG_RUNTIME_DIR"
-    unset DBUS_SESSION_BUS_ADDRESS WAYLAND_DISPLAY QT_QPA_PLATFORM
-    Xvfb -displayfd 3 -screen 0 1280x800x24 -nolisten tcp 3>"$work/display" >/dev/null 2>&1 &
-    XVFB_PID=$!
-    for _ in $(seq 100); do grep -q . "$work/display" 2>/dev/null && break; sleep 0.1; done
-    export DISPLAY=":$(head -1 "$work/display")"
+    have_tools Xvfb dbus-run-session gdbus || exit 1
+    private_home
+    start_xvfb /dev/null
     dbus-run-session -- "$0" --in-session "$BUILD" "$BASELINE"
     exit
 fi
@@ -52,10 +38,6 @@ fi
 BUILD=$2
 BASELINE=${3:-}
 
-rss_kb() { awk '/^VmRSS:/ {print $2}' "/proc/$1/status"; }
-hwm_kb() { awk '/^VmHWM:/ {print $2}' "/proc/$1/status"; }
-# CPU time of all the process's threads so far, in nanoseconds.
-cpu_ns() { cat /proc/"$1"/task/*/schedstat | awk '{sum += $1} END {printf "%.0f", sum}'; }
 mb() { awk -v kb="$1" 'BEGIN {printf "%.1f MB", kb / 1024}'; }
 # CPU share of one core over the measured time, from two readings.
 share() { awk -v a="$1" -v b="$2" -v s="$SECONDS_MEASURED" \
@@ -64,16 +46,13 @@ qt_libs() { awk '{print $6}' "/proc/$1/maps" | grep -E 'libQt6|libicu' | xargs -
 
 "$BUILD/tests/traywatcher" >/dev/null &
 WATCHER=$!
-trap 'kill "$WATCHER" ${PID:+"$PID"} 2>/dev/null || true' EXIT
-for _ in $(seq 50); do
-    gdbus call --session --dest org.freedesktop.DBus --object-path / --method org.freedesktop.DBus.NameHasOwner \
-        org.kde.StatusNotifierWatcher 2>/dev/null | grep -q true && break
-    sleep 0.1
-done
+ENDING_PIDS+=("$WATCHER")
+wait_for 10 "the stand-in tray host" has_owner org.kde.StatusNotifierWatcher
 
 echo "== desktop face (Xvfb, stand-in tray host)"
 "$BUILD/src/sulkbox" 2>/dev/null &
 PID=$!
+ENDING_PIDS+=("$PID")
 sleep 10
 item="org.kde.StatusNotifierItem-$PID-1"
 echo "resident, panel never opened:      $(mb "$(rss_kb "$PID")")"
@@ -109,7 +88,7 @@ t1=$(cpu_ns "$PID")
 echo "CPU, panel hidden again:           $(share "$t0" "$t1")"
 kill "$PID"
 wait "$PID" 2>/dev/null || true
-PID=
+ENDING_PIDS=("$WATCHER")
 
 bar() {
     local exe=$1 label=$2

@@ -22,6 +22,7 @@
 # averages are printed before and after.
 set -euo pipefail
 cd "$(dirname "$0")/.."
+source bench/measure.sh
 
 exe=build/src/sulkbox
 seconds=60
@@ -39,15 +40,8 @@ while (($#)); do
     esac
 done
 command -v i3status >/dev/null || { echo "i3status is not installed (scripts/deps.sh --bench)" >&2; exit 1; }
-[[ -x $exe ]] || { echo "no executable at $exe; build the sulkbox target first" >&2; exit 1; }
-
-work=$(mktemp -d)
-pid=
-cleanup() {
-    [[ -n $pid ]] && kill "$pid" 2>/dev/null && wait "$pid" 2>/dev/null
-    rm -rf "$work"
-}
-trap cleanup EXIT
+need_exe "$exe"
+bench_work
 
 # sulkbox with default settings (1 s, the mood label), never the user's.
 mkdir -p "$work/config"
@@ -74,11 +68,7 @@ cpu_temperature 0 { format = "T: %degrees °C" }
 EOF
 
 load() { cut -d' ' -f1-3 /proc/loadavg; }
-# Nanoseconds on a CPU, all threads of $1.
-cpuNs() { cat /proc/"$1"/task/*/schedstat 2>/dev/null | awk '{s += $1} END {print s + 0}'; }
 switches() { cat /proc/"$1"/task/*/status 2>/dev/null | awk '/^voluntary_ctxt_switches/ {s += $2} END {print s + 0}'; }
-hwmKb() { awk '/^VmHWM/ {print $2}' /proc/"$1"/status; }
-lines() { wc -l <"$work/out"; }
 nowNs() { date +%s%N; }
 
 # measure NAME COMMAND...: prints "ticks cpu_ns wall_ns switches hwm_kb".
@@ -89,9 +79,9 @@ measure() {
     sleep "$warmup"
     kill -0 "$pid" 2>/dev/null || { echo "$* ended early:" >&2; cat "$work/err" >&2; exit 1; }
     local l0 c0 s0 t0 l1 c1 s1 t1 h
-    l0=$(lines); c0=$(cpuNs "$pid"); s0=$(switches "$pid"); t0=$(nowNs)
+    l0=$(lines); c0=$(cpu_ns "$pid"); s0=$(switches "$pid"); t0=$(nowNs)
     sleep "$seconds"
-    l1=$(lines); c1=$(cpuNs "$pid"); s1=$(switches "$pid"); t1=$(nowNs); h=$(hwmKb "$pid")
+    l1=$(lines); c1=$(cpu_ns "$pid"); s1=$(switches "$pid"); t1=$(nowNs); h=$(hwm_kb "$pid")
     kill "$pid"; wait "$pid" 2>/dev/null || true
     pid=
     echo "$((l1 - l0)) $((c1 - c0)) $((t1 - t0)) $((s1 - s0)) $h"

@@ -8,60 +8,26 @@
 #   xfce_tray.sh SULKBOX SCREENTOOL OUT
 # Exit status 77 (skipped) where xfce4-panel is missing.
 set -euo pipefail
+source "$(dirname "$0")/session.sh"
 
-if [[ "${1:-}" == "--in-session" ]]; then
-    inside=1
-    shift
-else
-    inside=0
-fi
+inside=0
+if [[ "${1:-}" == "--in-session" ]]; then inside=1; shift; fi
 SULKBOX=$1
 SHOT=$2
 OUT=$3
 PANEL_H=32
 
-say() { echo "e2e: $*" >&2; }
-fail() { say "FAIL: $*"; exit 1; }
-wait_for() {
-    local seconds=$1 what=$2
-    shift 2
-    local end=$((SECONDS + seconds))
-    until "$@"; do
-        ((SECONDS < end)) || fail "timed out after ${seconds}s waiting for $what"
-        sleep 0.25
-    done
-}
-
 if ((inside)); then
-    cleanup_session() {
-        [[ -n "${SULKBOX_PID:-}" ]] && kill "$SULKBOX_PID" 2>/dev/null || true
-        [[ -n "${PANEL_PID:-}" ]] && kill "$PANEL_PID" 2>/dev/null || true
-        wait 2>/dev/null || true
-    }
-    trap cleanup_session EXIT
-    has_owner() {
-        gdbus call --session --dest org.freedesktop.DBus --object-path / \
-            --method org.freedesktop.DBus.NameHasOwner "$1" 2>/dev/null | grep -q true
-    }
     xfce4-panel >"$OUT/xfce4-panel.log" 2>&1 &
-    PANEL_PID=$!
+    ENDING_PIDS+=("$!")
     wait_for 60 "the Status Tray's watcher" has_owner org.kde.StatusNotifierWatcher
     sleep 2
-    read -r screen_w _ < <(xdpyinfo | awk '/dimensions:/ {split($2, d, "x"); print d[1], d[2]}')
+    screen_size
     "$SHOT" shot "$OUT/xfce-before.png" 0 0 "$screen_w" "$PANEL_H"
 
     "$SULKBOX" >"$OUT/sulkbox-xfce.log" 2>&1 &
-    SULKBOX_PID=$!
-    box=none
-    previous=
-    shown() {
-        "$SHOT" shot "$OUT/xfce-now.png" 0 0 "$screen_w" "$PANEL_H"
-        box=$("$SHOT" diff "$OUT/xfce-before.png" "$OUT/xfce-now.png")
-        if [[ "$box" != none && "$box" == "$previous" ]]; then return 0; fi
-        previous=$box
-        return 1
-    }
-    wait_for 30 "the icon in the panel" shown
+    ENDING_PIDS+=("$!")
+    wait_for 30 "the icon in the panel" settled_change "$OUT/xfce-before.png" "$OUT/xfce-now.png" "$screen_w" "$PANEL_H"
     read -r bx by bw bh <<<"$box"
     say "icon at x=$bx y=$by ${bw}x${bh}"
     "$SHOT" crop "$OUT/xfce-now.png" "$OUT/xfce-mood.png" $((bx - 8)) 0 $((bw + 16)) "$PANEL_H" 4
@@ -71,15 +37,13 @@ if ((inside)); then
     ((colours >= 40)) || fail "the icon has only $colours colours"
 
     # Numbers mode, as the preferences would set it: the icon shows the loads.
-    mkdir -p "$XDG_CONFIG_HOME/sulkbox"
-    printf '[General]\nmoodEnabled=false\n' >"$XDG_CONFIG_HOME/sulkbox/sulkbox.conf"
+    numbers_mode
     sleep 3
     "$SHOT" shot "$OUT/xfce-now.png" 0 0 "$screen_w" "$PANEL_H"
     "$SHOT" crop "$OUT/xfce-now.png" "$OUT/xfce-numbers.png" $((bx - 8)) 0 $((bw + 16)) "$PANEL_H" 4
 
     # A click activates the item here (no menu first, unlike GNOME).
     xdotool mousemove $((bx + bw / 2)) $((by + bh / 2)) click 1
-    panel_open() { [[ -n "$(xdotool search --onlyvisible --class '^sulkbox$' 2>/dev/null | head -1)" ]]; }
     wait_for 20 "the panel window" panel_open
     sleep 1
     "$SHOT" shot "$OUT/xfce-panel-open.png"
@@ -87,27 +51,10 @@ if ((inside)); then
     exit 0
 fi
 
-for tool in xfce4-panel xdotool Xvfb dbus-run-session gdbus xdpyinfo; do
-    command -v "$tool" >/dev/null || { say "skipped: $tool is not installed"; exit 77; }
-done
+have_tools xfce4-panel xdotool Xvfb dbus-run-session gdbus xdpyinfo || exit 77
 mkdir -p "$OUT"
-work=$(mktemp -d)
-cleanup() {
-    [[ -n "${XVFB_PID:-}" ]] && kill "$XVFB_PID" 2>/dev/null || true
-    wait 2>/dev/null || true
-    rm -rf "$work"
-}
-trap cleanup EXIT
-export HOME="$work/home" XDG_RUNTIME_DIR="$work/runtime"
-export XDG_CONFIG_HOME="$HOME/.config" XDG_DATA_HOME="$HOME/.local/share" XDG_CACHE_HOME="$HOME/.cache"
-mkdir -p "$XDG_RUNTIME_DIR" "$XDG_CONFIG_HOME/xfce4/xfconf/xfce-perchannel-xml"
-chmod 700 "$XDG_RUNTIME_DIR"
-unset DBUS_SESSION_BUS_ADDRESS WAYLAND_DISPLAY QT_QPA_PLATFORM SESSION_MANAGER
-export LANG=C.UTF-8 LC_ALL=C.UTF-8 NO_AT_BRIDGE=1
-# Under AddressSanitizer: Qt's X11 event reader passes strndup a reply
-# buffer without a terminator, which strict string checks take for an
-# overflow in every X11 client (sulkbox and the screen helper alike).
-if [[ -n "${ASAN_OPTIONS:-}" ]]; then export ASAN_OPTIONS="$ASAN_OPTIONS:strict_string_checks=0"; fi
+private_home
+mkdir -p "$XDG_CONFIG_HOME/xfce4/xfconf/xfce-perchannel-xml"
 
 # One panel along the top: a spacer, then the Status Tray.
 cat >"$XDG_CONFIG_HOME/xfce4/xfconf/xfce-perchannel-xml/xfce4-panel.xml" <<EOF
@@ -137,8 +84,5 @@ cat >"$XDG_CONFIG_HOME/xfce4/xfconf/xfce-perchannel-xml/xfce4-panel.xml" <<EOF
 </channel>
 EOF
 
-Xvfb -displayfd 3 -screen 0 1280x800x24 -nolisten tcp 3>"$work/display" >"$OUT/xvfb-xfce.log" 2>&1 &
-XVFB_PID=$!
-wait_for 30 "Xvfb" grep -q . "$work/display"
-export DISPLAY=":$(head -1 "$work/display")"
+start_xvfb "$OUT/xvfb-xfce.log"
 dbus-run-session -- "$0" --in-session "$SULKBOX" "$SHOT" "$OUT"
