@@ -238,7 +238,8 @@ QHash<QString, DiskBytes> parseDiskStats(QByteArrayView text, QByteArray *names)
             continue;
         const auto sectorsRead = SysFs::parseUnsigned(f[5].begin(), f[5].end());
         const auto sectorsWritten = SysFs::parseUnsigned(f[9].begin(), f[9].end());
-        if (!sectorsRead || !sectorsWritten)
+        constexpr quint64 maxSectors = ~quint64(0) / 512;
+        if (!sectorsRead || !sectorsWritten || *sectorsRead > maxSectors || *sectorsWritten > maxSectors)
             continue;
         if (names) {
             names->append(f[2]);

@@ -25,7 +25,8 @@ bool readInto(const QString &path, QByteArray &buffer, qsizetype maxBytes = 1 <<
 inline QByteArray native(const QString &path) { return path.toLocal8Bit(); }
 
 // The file's text as one decimal integer (blanks and one newline allowed
-// around it; a sign is allowed).
+// around it; a sign is allowed). A number beyond the signed 64-bit range
+// (the kernel's all-ones "unknown", for one) is refused.
 std::optional<qint64> readLong(const char *nativePath);
 inline std::optional<qint64> readLong(const QByteArray &nativePath) { return readLong(nativePath.constData()); }
 std::optional<qint64> readLong(const QString &path);
@@ -53,7 +54,8 @@ bool exists(const QString &path);
 // link counts even when what it points at is not there).
 bool linkOrFileExists(const QString &path);
 
-// Parses a decimal unsigned integer from [begin, end); nullopt on garbage.
+// Parses a decimal unsigned integer from [begin, end); nullopt on garbage
+// and on numbers beyond 64 bits.
 std::optional<quint64> parseUnsigned(const char *begin, const char *end);
 
 // A file that is read again on every tick. Under /proc and /sys the
