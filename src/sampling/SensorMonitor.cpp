@@ -1,5 +1,6 @@
 #include "sampling/SensorMonitor.h"
 
+#include "sampling/Plausible.h"
 #include "sampling/SysFs.h"
 
 using namespace Qt::StringLiterals;
@@ -46,10 +47,6 @@ bool wakesOnRead(const QString &chip)
     return chip == "amdgpu"_L1 || chip == "radeon"_L1 || chip == "nouveau"_L1;
 }
 
-bool plausible(double celsius)
-{
-    return celsius > 0 && celsius < 200;
-}
 
 struct Entry {
     TempReading reading;
@@ -155,10 +152,11 @@ void SensorMonitor::discover()
                 hwmonHasTemps = true;
             } else if (const int f = SysFs::indexedName(file, QLatin1StringView("fan"), QLatin1StringView("_input")); f >= 0) {
                 const QString prefix = base + QStringLiteral("/fan%1_").arg(f);
-                m_fans.append({SysFs::native(base + u'/' + file),
-                               double(std::max<qint64>(SysFs::readLong(prefix + "min"_L1).value_or(0), 0)),
-                               double(std::max<qint64>(SysFs::readLong(prefix + "max"_L1).value_or(0), 0)),
-                               status});
+                const auto limit = [&prefix](QLatin1StringView which) {
+                    const double rpm = double(SysFs::readLong(prefix + which).value_or(0));
+                    return Plausible::fanRpm(rpm) ? rpm : 0.0;
+                };
+                m_fans.append({SysFs::native(base + u'/' + file), limit("min"_L1), limit("max"_L1), status});
             }
         }
     }
@@ -199,7 +197,7 @@ SensorSample SensorMonitor::read()
     QHash<QString, qsizetype> byName;
     // A later reading of the same name replaces the earlier one.
     auto add = [&](const QString &name, double celsius, quint8 classes) {
-        if (!plausible(celsius))
+        if (!Plausible::celsius(celsius))
             return;
         if (const auto it = byName.constFind(name); it != byName.cend()) {
             entries[*it].reading.celsius = celsius;
@@ -273,9 +271,11 @@ SensorSample SensorMonitor::read()
                 m_stale = true;
                 continue;
             }
+            if (!Plausible::fanRpm(double(*rpm)))
+                continue; // a stuck or confused tachometer: no reading
             FanInfo fan;
             fan.index = int(i);
-            fan.current = double(std::max<qint64>(*rpm, 0));
+            fan.current = double(*rpm);
             fan.min = m_fans[i].min;
             fan.max = m_fans[i].max;
             sample.fans.append(fan);
