@@ -44,7 +44,7 @@ CPUSample idleRecord(int cores)
 QString cleanedName(const QByteArray &raw)
 {
     const qsizetype nul = raw.indexOf('\0');
-    return QString::fromUtf8(nul < 0 ? raw : raw.left(nul)).simplified();
+    return SysFs::printable(QString::fromUtf8(nul < 0 ? raw : raw.left(nul))).simplified();
 }
 
 } // namespace

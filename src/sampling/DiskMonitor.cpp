@@ -573,7 +573,9 @@ QList<VolumeInfo> DiskMonitor::volumes()
             continue;
         if (!(r.figures.total > 0))
             continue;
-        list.append({volumeName(r.mount), r.mount.mountPoint, r.figures.total, std::max(r.figures.free, 0.0)});
+        // The mount point stays as it is for statvfs; the record is for show.
+        list.append({SysFs::printable(volumeName(r.mount)), SysFs::printable(r.mount.mountPoint), r.figures.total,
+                     std::max(r.figures.free, 0.0)});
     }
     std::stable_sort(list.begin(), list.end(), [](const VolumeInfo &a, const VolumeInfo &b) { return a.total > b.total; });
     return list;

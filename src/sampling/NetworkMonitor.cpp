@@ -265,7 +265,8 @@ void NetworkMonitor::lookUpPrimary()
 {
     const AddressList addresses = m_addresses ? m_addresses() : AddressList{};
     if (const auto routed = defaultRouteInterface()) {
-        m_iface = *routed;
+        // Names are matched as the system gives them and shown printable.
+        m_iface = SysFs::printable(*routed);
         m_ip = Records::unknownText;
         for (const auto &[name, address] : addresses) {
             if (name == *routed) {
@@ -278,7 +279,7 @@ void NetworkMonitor::lookUpPrimary()
     // No default route: the first physical interface that has an address.
     for (const auto &[name, address] : addresses) {
         if (isCounted(QFile::encodeName(name))) {
-            m_iface = name;
+            m_iface = SysFs::printable(name);
             m_ip = address;
             return;
         }

@@ -260,7 +260,7 @@ QList<ProcInfo> ProcessMonitor::topByCPU(int limit)
     list.reserve(qsizetype(count));
     for (size_t i = 0; i < count; ++i) {
         const Entry &e = *rows[i].entry;
-        list.append(ProcInfo(e.pid, QString::fromUtf8(e.name, e.nameLength), rows[i].cpu, rows[i].mem));
+        list.append(ProcInfo(e.pid, SysFs::printable(QString::fromUtf8(e.name, e.nameLength)), rows[i].cpu, rows[i].mem));
     }
 
     remember(m_entries, now);

@@ -114,7 +114,7 @@ void SensorMonitor::discover()
         if (SysFs::readLine(dir + "/type"_L1) != "Battery"_L1 || SysFs::readLine(dir + "/scope"_L1) == "Device"_L1)
             continue;
         if (SysFs::exists(dir + "/temp"_L1))
-            addTemp(dir + "/temp"_L1, name + " battery"_L1, 0.1);
+            addTemp(dir + "/temp"_L1, SysFs::printable(name) + " battery"_L1, 0.1);
     }
 
     const QString hwmon = m_roots.sys + "/class/hwmon/"_L1;
@@ -125,7 +125,7 @@ void SensorMonitor::discover()
         if (chip.isEmpty())
             chip = SysFs::readLine(dir + "/device/name"_L1).value_or(QString());
         if (chip.isEmpty())
-            chip = entry;
+            chip = SysFs::printable(entry);
         if (supplyNames.contains(chip))
             continue;
 
@@ -169,7 +169,7 @@ void SensorMonitor::discover()
             if (!zone.startsWith(u"thermal_zone"))
                 continue;
             const QString type = SysFs::readLine(thermal + zone + "/type"_L1).value_or(QString());
-            addTemp(thermal + zone + "/temp"_L1, type.isEmpty() ? zone : type, 0.001);
+            addTemp(thermal + zone + "/temp"_L1, type.isEmpty() ? SysFs::printable(zone) : type, 0.001);
         }
     }
 

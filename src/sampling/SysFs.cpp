@@ -108,7 +108,23 @@ std::optional<QString> readLine(const QString &path, bool trim)
     while (len < n && buffer[len] != '\n' && buffer[len] != '\0')
         ++len;
     const QString line = QString::fromUtf8(buffer, len);
-    return trim ? line.trimmed() : line;
+    return trim ? printable(line).trimmed() : line;
+}
+
+QString printable(const QString &text)
+{
+    const auto isControl = [](QChar c) { return c.unicode() < 0x20 || (c.unicode() >= 0x7f && c.unicode() <= 0x9f); };
+    if (std::none_of(text.cbegin(), text.cend(), isControl))
+        return text;
+    QString out;
+    out.reserve(text.size());
+    for (const QChar c : text) {
+        if (c == u'\t' || c == u'\n' || c == u'\r')
+            out.append(u' ');
+        else if (!isControl(c))
+            out.append(c);
+    }
+    return out;
 }
 
 bool writeText(const QString &path, const QByteArray &text)

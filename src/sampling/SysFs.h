@@ -32,9 +32,16 @@ inline std::optional<qint64> readLong(const QByteArray &nativePath) { return rea
 std::optional<qint64> readLong(const QString &path);
 
 // The first line without its newline (at most 512 bytes are read). `trim`
-// also strips surrounding blanks; keep them where they matter (SMC type
-// names such as "ui8 ").
+// makes it text for people: surrounding blanks stripped and control
+// characters taken out (see printable). Without it the line comes back as
+// the file has it, for codes where every byte counts (SMC type names such
+// as "ui8 ").
 std::optional<QString> readLine(const QString &path, bool trim = true);
+
+// `text` without control characters (C0, DEL and C1), so that a name taken
+// from the kernel can be printed to a terminal as it stands: tabs and line
+// breaks become spaces, the rest are dropped.
+QString printable(const QString &text);
 
 // Writes `text` to an attribute; false when it cannot be written.
 bool writeText(const QString &path, const QByteArray &text);
