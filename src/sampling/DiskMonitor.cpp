@@ -445,10 +445,17 @@ std::optional<DiskMonitor::FsFigures> DiskMonitor::statVolume(const QString &mou
     if (::statvfs(path.constData(), &vfs) != 0)
         return std::nullopt;
     const double unit = double(vfs.f_frsize ? vfs.f_frsize : vfs.f_bsize);
+    return capacityOf(unit, vfs.f_blocks, vfs.f_bfree, vfs.f_bavail, (vfs.f_flag & ST_RDONLY) != 0);
+}
+
+DiskMonitor::FsFigures DiskMonitor::capacityOf(double blockSize, quint64 blocks, quint64 freeBlocks,
+                                                quint64 availableBlocks, bool readOnly)
+{
+    const quint64 usedBlocks = blocks > freeBlocks ? blocks - freeBlocks : 0;
     FsFigures figures;
-    figures.total = unit * double(vfs.f_blocks);
-    figures.free = unit * double(vfs.f_bavail);
-    figures.readOnly = (vfs.f_flag & ST_RDONLY) != 0;
+    figures.free = blockSize * double(availableBlocks);
+    figures.total = blockSize * double(usedBlocks) + figures.free;
+    figures.readOnly = readOnly;
     return figures;
 }
 

@@ -10,6 +10,7 @@
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
+#include <QProcess>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -184,6 +185,35 @@ private Q_SLOTS:
         QCOMPARE(t.volumes.value(0).path, QStringLiteral("/srv/nfs"));
         QCOMPARE(t.volumes.value(0).name, QStringLiteral("nfs"));
         QCOMPARE(t.volumes.size(), 6);
+    }
+
+    void capacityAgreesWithDf()
+    {
+        // Blocks held back for root are neither used nor available to the
+        // user: used is what is taken, free what the user can still write,
+        // and the share df's Use%.
+        const Figures f = DiskMonitor::capacityOf(4096, 1000, 300, 250, false);
+        QCOMPARE(f.total, (700.0 + 250.0) * 4096);
+        QCOMPARE(f.free, 250.0 * 4096);
+        QCOMPARE((VolumeInfo{QString(), QString(), f.total, f.free}.usedShare()), 700.0 / 950.0);
+        // More free blocks than blocks (a damaged figure): nothing used.
+        QCOMPARE(DiskMonitor::capacityOf(4096, 100, 200, 50, false).total, 50.0 * 4096);
+
+        // And on this machine, against df itself.
+        QProcess df;
+        df.start(QStringLiteral("df"), {QStringLiteral("-B1"), QStringLiteral("--output=used,avail"), QStringLiteral("/")});
+        if (!df.waitForFinished(10000) || df.exitCode() != 0)
+            QSKIP("df is not available");
+        const QList<QByteArray> row = df.readAllStandardOutput().split('\n').value(1).simplified().split(' ');
+        QCOMPARE(row.size(), 2);
+        const double used = row[0].toDouble(), avail = row[1].toDouble();
+        const std::optional<Figures> live = DiskMonitor::statVolume(QStringLiteral("/"));
+        QVERIFY(live);
+        // Other work on this disk may write between the two looks.
+        const double slack = 0.002 * (used + avail);
+        QVERIFY2(qAbs(live->free - avail) < slack, qPrintable(QStringLiteral("%1 %2").arg(live->free).arg(avail)));
+        QVERIFY2(qAbs(live->total - (used + avail)) < slack,
+                 qPrintable(QStringLiteral("%1 %2").arg(live->total).arg(used + avail)));
     }
 
     void readOnlyAndEmptyVolumes()
