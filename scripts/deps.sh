@@ -3,7 +3,18 @@
 # any are missing. Uses sudo when not run as root.
 #   scripts/deps.sh          build and run
 #   scripts/deps.sh --test   also what the tests need
+#   scripts/deps.sh --fuzz   also clang and libFuzzer for fuzz/ (flags combine)
 set -euo pipefail
+
+test=
+fuzz=
+for arg in "$@"; do
+    case $arg in
+    --test) test=1 ;;
+    --fuzz) fuzz=1 ;;
+    *) echo "usage: $0 [--test] [--fuzz]" >&2; exit 2 ;;
+    esac
+done
 
 packages=(
     cmake g++ make pkg-config ccache
@@ -13,8 +24,12 @@ packages=(
     qml6-module-qtquick-window qml6-module-qtquick-templates qml6-module-qtqml-workerscript
     fonts-noto-color-emoji fonts-noto-cjk fonts-noto-core
 )
-if [[ "${1:-}" == "--test" ]]; then
+if [[ -n $test ]]; then
     packages+=(locales xvfb xauth procps)
+fi
+if [[ -n $fuzz ]]; then
+    # llvm brings llvm-symbolizer, for readable reports.
+    packages+=(clang libclang-rt-dev llvm)
 fi
 
 missing=()
@@ -35,7 +50,7 @@ if ((${#missing[@]})); then
 fi
 
 # The number-formatting tests run once under a German locale.
-if [[ "${1:-}" == "--test" ]] && ! locale -a 2>/dev/null | grep -qi '^de_DE\.utf-\?8$'; then
+if [[ -n $test ]] && ! locale -a 2>/dev/null | grep -qi '^de_DE\.utf-\?8$'; then
     echo "Generating the de_DE.UTF-8 locale"
     as_root sed -i 's/^# *de_DE.UTF-8 UTF-8/de_DE.UTF-8 UTF-8/' /etc/locale.gen
     grep -q '^de_DE.UTF-8 UTF-8' /etc/locale.gen || echo 'de_DE.UTF-8 UTF-8' | as_root tee -a /etc/locale.gen >/dev/null
