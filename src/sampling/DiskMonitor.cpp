@@ -497,7 +497,7 @@ bool DiskMonitor::readMountTable()
     const QString path = m_roots.proc + QLatin1StringView("/self/mountinfo");
     if (!SysFs::readInto(path, m_mountBuffer, 4 << 20))
         return false;
-    const int fd = ::open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC);
+    const int fd = ::open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
     struct statfs fs {};
     if (fd >= 0 && ::fstatfs(fd, &fs) == 0 && fs.f_type == PROC_SUPER_MAGIC) {
         // Arm the change notice; the table just read is the baseline.

@@ -112,7 +112,7 @@ bool ProcessMonitor::scan(std::vector<Entry> &out)
         if (!allDigits(ent->d_name) || std::strlen(ent->d_name) > 10)
             continue;
         std::snprintf(path, sizeof path, "%s/stat", ent->d_name);
-        const int fd = ::openat(dirFd, path, O_RDONLY | O_CLOEXEC);
+        const int fd = ::openat(dirFd, path, O_RDONLY | O_CLOEXEC | O_NONBLOCK);
         if (fd < 0)
             continue; // gone since the listing
         // One read: the kernel hands over the whole line at once when the
