@@ -18,14 +18,15 @@ done
 
 packages=(
     cmake g++ make pkg-config ccache
-    qt6-base-dev qt6-declarative-dev qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools
+    qt6-base-dev qt6-declarative-dev qt6-svg-dev qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools
     libicu-dev libgl-dev
     qml6-module-qtquick qml6-module-qtquick-controls qml6-module-qtquick-layouts
     qml6-module-qtquick-window qml6-module-qtquick-templates qml6-module-qtqml-workerscript
     fonts-noto-color-emoji fonts-noto-cjk fonts-noto-core
+    libqt6svg6 librsvg2-bin dpkg-dev
 )
 if [[ -n $test ]]; then
-    packages+=(locales xvfb xauth procps)
+    packages+=(locales xvfb xauth procps desktop-file-utils appstream man-db)
 fi
 if [[ -n $fuzz ]]; then
     # llvm brings llvm-symbolizer, for readable reports.

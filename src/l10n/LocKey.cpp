@@ -134,6 +134,24 @@ constexpr const char16_t *englishTexts[locKeyCount] = {
     u"happy mid-autumn", // holMidAutumn
     u"let’s celebrate", // holCheer
     u"", // empty
+    u"Preferences", // prefsTitle
+    u"Updates come from your distribution’s package manager.", // updatesFromDistro
+    u"Software Update", // updateTitle
+    u"Checking for updates…", // checkingForUpdates
+    u"You’re up to date!", // upToDate
+    u"sulkbox %@ is the newest version available.", // upToDateFmt
+    u"A new version of sulkbox is available!", // updateAvailable
+    u"sulkbox %@ is ready to download.", // updateAvailableFmt
+    u"You have %@.", // youHaveFmt
+    u"Release Notes", // releaseNotes
+    u"Open Download Page", // openDownloadPage
+    u"Not Now", // notNow
+    u"OK", // ok
+    u"Couldn’t check for updates", // updateFailed
+    u"The update server could not be reached. Check your internet connection and try again.", // updateErrorOffline
+    u"The update server took too long to answer. Try again later.", // updateErrorTimeout
+    u"The update server answered with an error (%@). Try again later.", // updateErrorServerFmt
+    u"The update server sent something that isn’t an update feed.", // updateErrorBadFeed
 };
 
 } // namespace

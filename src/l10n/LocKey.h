@@ -141,6 +141,24 @@ enum class LocKey {
     holMidAutumn,
     holCheer,
     empty,
+    prefsTitle,
+    updatesFromDistro,
+    updateTitle,
+    checkingForUpdates,
+    upToDate,
+    upToDateFmt,
+    updateAvailable,
+    updateAvailableFmt,
+    youHaveFmt,
+    releaseNotes,
+    openDownloadPage,
+    notNow,
+    ok,
+    updateFailed,
+    updateErrorOffline,
+    updateErrorTimeout,
+    updateErrorServerFmt,
+    updateErrorBadFeed,
 };
 Q_ENUM_NS(LocKey)
 
@@ -148,7 +166,7 @@ Q_ENUM_NS(LocKey)
 
 using LocKey = LocKeys::LocKey;
 
-inline constexpr int locKeyCount = 128;
+inline constexpr int locKeyCount = 146;
 
 // All keys in their declared order.
 const std::array<LocKey, locKeyCount> &allLocKeys();

@@ -27,6 +27,9 @@ class AppSettings : public QObject {
     Q_PROPERTY(bool showSensors READ showSensors WRITE setShowSensors NOTIFY showSensorsChanged)
     Q_PROPERTY(bool showProcesses READ showProcesses WRITE setShowProcesses NOTIFY showProcessesChanged)
     Q_PROPERTY(bool migratedFromLegacyBundleID READ migratedFromLegacyBundleID WRITE setMigratedFromLegacyBundleID NOTIFY migratedFromLegacyBundleIDChanged)
+    Q_PROPERTY(bool automaticUpdateChecks READ automaticUpdateChecks WRITE setAutomaticUpdateChecks NOTIFY automaticUpdateChecksChanged)
+    Q_PROPERTY(QString lastUpdateCheck READ lastUpdateCheck WRITE setLastUpdateCheck NOTIFY lastUpdateCheckChanged)
+    Q_PROPERTY(QString updateFeedURL READ updateFeedURL WRITE setUpdateFeedURL NOTIFY updateFeedURLChanged)
 
 public:
     // The one instance, created on first use on the main thread.
@@ -60,6 +63,12 @@ public:
     void setShowProcesses(bool v) { Settings::set(Settings::Key::showProcesses, v); }
     bool migratedFromLegacyBundleID() const { return Settings::value(Settings::Key::migratedFromLegacyBundleID).toBool(); }
     void setMigratedFromLegacyBundleID(bool v) { Settings::set(Settings::Key::migratedFromLegacyBundleID, v); }
+    bool automaticUpdateChecks() const { return Settings::value(Settings::Key::automaticUpdateChecks).toBool(); }
+    void setAutomaticUpdateChecks(bool v) { Settings::set(Settings::Key::automaticUpdateChecks, v); }
+    QString lastUpdateCheck() const { return Settings::value(Settings::Key::lastUpdateCheck).toString(); }
+    void setLastUpdateCheck(const QString &v) { Settings::set(Settings::Key::lastUpdateCheck, v); }
+    QString updateFeedURL() const { return Settings::value(Settings::Key::updateFeedURL).toString(); }
+    void setUpdateFeedURL(const QString &v) { Settings::set(Settings::Key::updateFeedURL, v); }
 
     // Starts following the file on disk; the command line's one-shot runs
     // never call it.
@@ -86,6 +95,9 @@ signals:
     void showSensorsChanged();
     void showProcessesChanged();
     void migratedFromLegacyBundleIDChanged();
+    void automaticUpdateChecksChanged();
+    void lastUpdateCheckChanged();
+    void updateFeedURLChanged();
 
 private:
     AppSettings();

@@ -17,7 +17,7 @@ namespace Settings {
 
 namespace {
 
-constexpr int kCount = int(Key::migratedFromLegacyBundleID) + 1;
+constexpr int kCount = int(Key::updateFeedURL) + 1;
 
 // A real settings file is a few hundred bytes; anything past this is not ours.
 constexpr qint64 kMaxFileSize = 1 << 20;
@@ -196,6 +196,9 @@ const QList<Entry> &all()
         {Key::showSensors, "showSensors", Type::Flag, true},
         {Key::showProcesses, "showProcesses", Type::Flag, true},
         {Key::migratedFromLegacyBundleID, "migratedFromLegacyBundleID", Type::Flag, false},
+        {Key::automaticUpdateChecks, "automaticUpdateChecks", Type::Flag, false},
+        {Key::lastUpdateCheck, "lastUpdateCheck", Type::Text, QString()},
+        {Key::updateFeedURL, "updateFeedURL", Type::Text, QString()},
     };
     return table;
 }

@@ -33,6 +33,12 @@ enum class Key {
     showSensors,
     showProcesses,
     migratedFromLegacyBundleID,
+    // Update checks: the automatic-check switch, when the last check ran
+    // (ISO 8601, UTC) and an optional feed address that replaces the one the
+    // build was configured with.
+    automaticUpdateChecks,
+    lastUpdateCheck,
+    updateFeedURL,
 };
 
 struct Entry {

@@ -32,7 +32,10 @@ private slots:
                       Key::showProcesses})
             QVERIFY(Settings::flag(k));
         QCOMPARE(Settings::flag(Key::migratedFromLegacyBundleID), false);
-        QCOMPARE(Settings::all().size(), 14);
+        QCOMPARE(Settings::flag(Key::automaticUpdateChecks), false);
+        QCOMPARE(Settings::text(Key::lastUpdateCheck), QString());
+        QCOMPARE(Settings::text(Key::updateFeedURL), QString());
+        QCOMPARE(Settings::all().size(), 17);
     }
 
     void startingUpWritesNothing()

@@ -623,5 +623,95 @@
         <source>let’s celebrate</source>
         <translation>お祝いしよう</translation>
     </message>
+    <message>
+        <extracomment>prefsTitle</extracomment>
+        <source>Preferences</source>
+        <translation>環境設定</translation>
+    </message>
+    <message>
+        <extracomment>updatesFromDistro</extracomment>
+        <source>Updates come from your distribution’s package manager.</source>
+        <translation>アップデートはディストリビューションのパッケージマネージャーから届きます。</translation>
+    </message>
+    <message>
+        <extracomment>updateTitle</extracomment>
+        <source>Software Update</source>
+        <translation>ソフトウェアアップデート</translation>
+    </message>
+    <message>
+        <extracomment>checkingForUpdates</extracomment>
+        <source>Checking for updates…</source>
+        <translation>アップデートを確認しています…</translation>
+    </message>
+    <message>
+        <extracomment>upToDate</extracomment>
+        <source>You’re up to date!</source>
+        <translation>最新の状態です！</translation>
+    </message>
+    <message>
+        <extracomment>upToDateFmt</extracomment>
+        <source>sulkbox %@ is the newest version available.</source>
+        <translation>sulkbox %@ が現在の最新バージョンです。</translation>
+    </message>
+    <message>
+        <extracomment>updateAvailable</extracomment>
+        <source>A new version of sulkbox is available!</source>
+        <translation>sulkbox の新しいバージョンがあります！</translation>
+    </message>
+    <message>
+        <extracomment>updateAvailableFmt</extracomment>
+        <source>sulkbox %@ is ready to download.</source>
+        <translation>sulkbox %@ をダウンロードできます。</translation>
+    </message>
+    <message>
+        <extracomment>youHaveFmt</extracomment>
+        <source>You have %@.</source>
+        <translation>お使いのバージョンは %@ です。</translation>
+    </message>
+    <message>
+        <extracomment>releaseNotes</extracomment>
+        <source>Release Notes</source>
+        <translation>リリースノート</translation>
+    </message>
+    <message>
+        <extracomment>openDownloadPage</extracomment>
+        <source>Open Download Page</source>
+        <translation>ダウンロードページを開く</translation>
+    </message>
+    <message>
+        <extracomment>notNow</extracomment>
+        <source>Not Now</source>
+        <translation>今はしない</translation>
+    </message>
+    <message>
+        <extracomment>ok</extracomment>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <extracomment>updateFailed</extracomment>
+        <source>Couldn’t check for updates</source>
+        <translation>アップデートを確認できませんでした</translation>
+    </message>
+    <message>
+        <extracomment>updateErrorOffline</extracomment>
+        <source>The update server could not be reached. Check your internet connection and try again.</source>
+        <translation>アップデートサーバーに接続できませんでした。インターネット接続を確認して、もう一度お試しください。</translation>
+    </message>
+    <message>
+        <extracomment>updateErrorTimeout</extracomment>
+        <source>The update server took too long to answer. Try again later.</source>
+        <translation>アップデートサーバーからの応答がありませんでした。しばらくしてからもう一度お試しください。</translation>
+    </message>
+    <message>
+        <extracomment>updateErrorServerFmt</extracomment>
+        <source>The update server answered with an error (%@). Try again later.</source>
+        <translation>アップデートサーバーがエラーを返しました（%@）。しばらくしてからもう一度お試しください。</translation>
+    </message>
+    <message>
+        <extracomment>updateErrorBadFeed</extracomment>
+        <source>The update server sent something that isn’t an update feed.</source>
+        <translation>アップデートサーバーから届いたデータは、アップデート情報ではありませんでした。</translation>
+    </message>
 </context>
 </TS>

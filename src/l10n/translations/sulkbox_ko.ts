@@ -623,5 +623,95 @@
         <source>let’s celebrate</source>
         <translation>다 같이 축하하자</translation>
     </message>
+    <message>
+        <extracomment>prefsTitle</extracomment>
+        <source>Preferences</source>
+        <translation>환경설정</translation>
+    </message>
+    <message>
+        <extracomment>updatesFromDistro</extracomment>
+        <source>Updates come from your distribution’s package manager.</source>
+        <translation>업데이트는 배포판의 패키지 관리자를 통해 제공됩니다.</translation>
+    </message>
+    <message>
+        <extracomment>updateTitle</extracomment>
+        <source>Software Update</source>
+        <translation>소프트웨어 업데이트</translation>
+    </message>
+    <message>
+        <extracomment>checkingForUpdates</extracomment>
+        <source>Checking for updates…</source>
+        <translation>업데이트 확인 중…</translation>
+    </message>
+    <message>
+        <extracomment>upToDate</extracomment>
+        <source>You’re up to date!</source>
+        <translation>최신 버전입니다!</translation>
+    </message>
+    <message>
+        <extracomment>upToDateFmt</extracomment>
+        <source>sulkbox %@ is the newest version available.</source>
+        <translation>sulkbox %@ 버전이 최신입니다.</translation>
+    </message>
+    <message>
+        <extracomment>updateAvailable</extracomment>
+        <source>A new version of sulkbox is available!</source>
+        <translation>sulkbox 새 버전이 나왔습니다!</translation>
+    </message>
+    <message>
+        <extracomment>updateAvailableFmt</extracomment>
+        <source>sulkbox %@ is ready to download.</source>
+        <translation>sulkbox %@ 버전을 내려받을 수 있습니다.</translation>
+    </message>
+    <message>
+        <extracomment>youHaveFmt</extracomment>
+        <source>You have %@.</source>
+        <translation>현재 버전은 %@입니다.</translation>
+    </message>
+    <message>
+        <extracomment>releaseNotes</extracomment>
+        <source>Release Notes</source>
+        <translation>릴리스 노트</translation>
+    </message>
+    <message>
+        <extracomment>openDownloadPage</extracomment>
+        <source>Open Download Page</source>
+        <translation>다운로드 페이지 열기</translation>
+    </message>
+    <message>
+        <extracomment>notNow</extracomment>
+        <source>Not Now</source>
+        <translation>나중에</translation>
+    </message>
+    <message>
+        <extracomment>ok</extracomment>
+        <source>OK</source>
+        <translation>확인</translation>
+    </message>
+    <message>
+        <extracomment>updateFailed</extracomment>
+        <source>Couldn’t check for updates</source>
+        <translation>업데이트를 확인하지 못했습니다</translation>
+    </message>
+    <message>
+        <extracomment>updateErrorOffline</extracomment>
+        <source>The update server could not be reached. Check your internet connection and try again.</source>
+        <translation>업데이트 서버에 연결할 수 없습니다. 인터넷 연결을 확인한 뒤 다시 시도해 주세요.</translation>
+    </message>
+    <message>
+        <extracomment>updateErrorTimeout</extracomment>
+        <source>The update server took too long to answer. Try again later.</source>
+        <translation>업데이트 서버가 응답하지 않습니다. 잠시 후 다시 시도해 주세요.</translation>
+    </message>
+    <message>
+        <extracomment>updateErrorServerFmt</extracomment>
+        <source>The update server answered with an error (%@). Try again later.</source>
+        <translation>업데이트 서버에서 오류가 발생했습니다(%@). 잠시 후 다시 시도해 주세요.</translation>
+    </message>
+    <message>
+        <extracomment>updateErrorBadFeed</extracomment>
+        <source>The update server sent something that isn’t an update feed.</source>
+        <translation>업데이트 서버가 보낸 내용이 올바른 업데이트 정보가 아닙니다.</translation>
+    </message>
 </context>
 </TS>

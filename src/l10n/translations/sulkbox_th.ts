@@ -623,5 +623,95 @@
         <source>let’s celebrate</source>
         <translation>มาฉลองกัน</translation>
     </message>
+    <message>
+        <extracomment>prefsTitle</extracomment>
+        <source>Preferences</source>
+        <translation>การตั้งค่า</translation>
+    </message>
+    <message>
+        <extracomment>updatesFromDistro</extracomment>
+        <source>Updates come from your distribution’s package manager.</source>
+        <translation>อัปเดตมาจากตัวจัดการแพ็กเกจของดิสทริบิวชันที่คุณใช้</translation>
+    </message>
+    <message>
+        <extracomment>updateTitle</extracomment>
+        <source>Software Update</source>
+        <translation>อัปเดตซอฟต์แวร์</translation>
+    </message>
+    <message>
+        <extracomment>checkingForUpdates</extracomment>
+        <source>Checking for updates…</source>
+        <translation>กำลังตรวจหาอัปเดต…</translation>
+    </message>
+    <message>
+        <extracomment>upToDate</extracomment>
+        <source>You’re up to date!</source>
+        <translation>เป็นเวอร์ชันล่าสุดแล้ว!</translation>
+    </message>
+    <message>
+        <extracomment>upToDateFmt</extracomment>
+        <source>sulkbox %@ is the newest version available.</source>
+        <translation>sulkbox %@ คือเวอร์ชันใหม่ล่าสุดแล้ว</translation>
+    </message>
+    <message>
+        <extracomment>updateAvailable</extracomment>
+        <source>A new version of sulkbox is available!</source>
+        <translation>sulkbox มีเวอร์ชันใหม่แล้ว!</translation>
+    </message>
+    <message>
+        <extracomment>updateAvailableFmt</extracomment>
+        <source>sulkbox %@ is ready to download.</source>
+        <translation>sulkbox %@ พร้อมให้ดาวน์โหลดแล้ว</translation>
+    </message>
+    <message>
+        <extracomment>youHaveFmt</extracomment>
+        <source>You have %@.</source>
+        <translation>เวอร์ชันที่คุณใช้อยู่คือ %@</translation>
+    </message>
+    <message>
+        <extracomment>releaseNotes</extracomment>
+        <source>Release Notes</source>
+        <translation>บันทึกประจำรุ่น</translation>
+    </message>
+    <message>
+        <extracomment>openDownloadPage</extracomment>
+        <source>Open Download Page</source>
+        <translation>เปิดหน้าดาวน์โหลด</translation>
+    </message>
+    <message>
+        <extracomment>notNow</extracomment>
+        <source>Not Now</source>
+        <translation>ไว้ทีหลัง</translation>
+    </message>
+    <message>
+        <extracomment>ok</extracomment>
+        <source>OK</source>
+        <translation>ตกลง</translation>
+    </message>
+    <message>
+        <extracomment>updateFailed</extracomment>
+        <source>Couldn’t check for updates</source>
+        <translation>ตรวจหาอัปเดตไม่ได้</translation>
+    </message>
+    <message>
+        <extracomment>updateErrorOffline</extracomment>
+        <source>The update server could not be reached. Check your internet connection and try again.</source>
+        <translation>ติดต่อเซิร์ฟเวอร์อัปเดตไม่ได้ ลองตรวจการเชื่อมต่ออินเทอร์เน็ตแล้วลองใหม่อีกครั้ง</translation>
+    </message>
+    <message>
+        <extracomment>updateErrorTimeout</extracomment>
+        <source>The update server took too long to answer. Try again later.</source>
+        <translation>เซิร์ฟเวอร์อัปเดตตอบกลับช้าเกินไป ลองใหม่ภายหลัง</translation>
+    </message>
+    <message>
+        <extracomment>updateErrorServerFmt</extracomment>
+        <source>The update server answered with an error (%@). Try again later.</source>
+        <translation>เซิร์ฟเวอร์อัปเดตแจ้งข้อผิดพลาด (%@) ลองใหม่ภายหลัง</translation>
+    </message>
+    <message>
+        <extracomment>updateErrorBadFeed</extracomment>
+        <source>The update server sent something that isn’t an update feed.</source>
+        <translation>ข้อมูลที่ได้จากเซิร์ฟเวอร์อัปเดตไม่ใช่ข้อมูลอัปเดต</translation>
+    </message>
 </context>
 </TS>

@@ -623,5 +623,95 @@
         <source>let’s celebrate</source>
         <translation>一起庆祝吧</translation>
     </message>
+    <message>
+        <extracomment>prefsTitle</extracomment>
+        <source>Preferences</source>
+        <translation>偏好设置</translation>
+    </message>
+    <message>
+        <extracomment>updatesFromDistro</extracomment>
+        <source>Updates come from your distribution’s package manager.</source>
+        <translation>更新由你的发行版软件包管理器提供。</translation>
+    </message>
+    <message>
+        <extracomment>updateTitle</extracomment>
+        <source>Software Update</source>
+        <translation>软件更新</translation>
+    </message>
+    <message>
+        <extracomment>checkingForUpdates</extracomment>
+        <source>Checking for updates…</source>
+        <translation>正在检查更新……</translation>
+    </message>
+    <message>
+        <extracomment>upToDate</extracomment>
+        <source>You’re up to date!</source>
+        <translation>已是最新版本！</translation>
+    </message>
+    <message>
+        <extracomment>upToDateFmt</extracomment>
+        <source>sulkbox %@ is the newest version available.</source>
+        <translation>sulkbox %@ 就是目前最新的版本。</translation>
+    </message>
+    <message>
+        <extracomment>updateAvailable</extracomment>
+        <source>A new version of sulkbox is available!</source>
+        <translation>sulkbox 有新版本啦！</translation>
+    </message>
+    <message>
+        <extracomment>updateAvailableFmt</extracomment>
+        <source>sulkbox %@ is ready to download.</source>
+        <translation>sulkbox %@ 已可下载。</translation>
+    </message>
+    <message>
+        <extracomment>youHaveFmt</extracomment>
+        <source>You have %@.</source>
+        <translation>你目前使用的是 %@。</translation>
+    </message>
+    <message>
+        <extracomment>releaseNotes</extracomment>
+        <source>Release Notes</source>
+        <translation>更新说明</translation>
+    </message>
+    <message>
+        <extracomment>openDownloadPage</extracomment>
+        <source>Open Download Page</source>
+        <translation>打开下载页面</translation>
+    </message>
+    <message>
+        <extracomment>notNow</extracomment>
+        <source>Not Now</source>
+        <translation>以后再说</translation>
+    </message>
+    <message>
+        <extracomment>ok</extracomment>
+        <source>OK</source>
+        <translation>好</translation>
+    </message>
+    <message>
+        <extracomment>updateFailed</extracomment>
+        <source>Couldn’t check for updates</source>
+        <translation>无法检查更新</translation>
+    </message>
+    <message>
+        <extracomment>updateErrorOffline</extracomment>
+        <source>The update server could not be reached. Check your internet connection and try again.</source>
+        <translation>连不上更新服务器。请检查网络连接后再试一次。</translation>
+    </message>
+    <message>
+        <extracomment>updateErrorTimeout</extracomment>
+        <source>The update server took too long to answer. Try again later.</source>
+        <translation>更新服务器迟迟没有回应，请稍后再试。</translation>
+    </message>
+    <message>
+        <extracomment>updateErrorServerFmt</extracomment>
+        <source>The update server answered with an error (%@). Try again later.</source>
+        <translation>更新服务器返回了错误（%@），请稍后再试。</translation>
+    </message>
+    <message>
+        <extracomment>updateErrorBadFeed</extracomment>
+        <source>The update server sent something that isn’t an update feed.</source>
+        <translation>更新服务器发来的内容不是有效的更新信息。</translation>
+    </message>
 </context>
 </TS>

@@ -623,5 +623,95 @@
         <source>let’s celebrate</source>
         <translation>一起慶祝吧</translation>
     </message>
+    <message>
+        <extracomment>prefsTitle</extracomment>
+        <source>Preferences</source>
+        <translation>偏好設定</translation>
+    </message>
+    <message>
+        <extracomment>updatesFromDistro</extracomment>
+        <source>Updates come from your distribution’s package manager.</source>
+        <translation>更新由你的發行版套件管理程式提供。</translation>
+    </message>
+    <message>
+        <extracomment>updateTitle</extracomment>
+        <source>Software Update</source>
+        <translation>軟體更新</translation>
+    </message>
+    <message>
+        <extracomment>checkingForUpdates</extracomment>
+        <source>Checking for updates…</source>
+        <translation>正在檢查更新……</translation>
+    </message>
+    <message>
+        <extracomment>upToDate</extracomment>
+        <source>You’re up to date!</source>
+        <translation>已是最新版本！</translation>
+    </message>
+    <message>
+        <extracomment>upToDateFmt</extracomment>
+        <source>sulkbox %@ is the newest version available.</source>
+        <translation>sulkbox %@ 就是目前最新的版本。</translation>
+    </message>
+    <message>
+        <extracomment>updateAvailable</extracomment>
+        <source>A new version of sulkbox is available!</source>
+        <translation>sulkbox 有新版本囉！</translation>
+    </message>
+    <message>
+        <extracomment>updateAvailableFmt</extracomment>
+        <source>sulkbox %@ is ready to download.</source>
+        <translation>sulkbox %@ 已可下載。</translation>
+    </message>
+    <message>
+        <extracomment>youHaveFmt</extracomment>
+        <source>You have %@.</source>
+        <translation>你目前使用的是 %@。</translation>
+    </message>
+    <message>
+        <extracomment>releaseNotes</extracomment>
+        <source>Release Notes</source>
+        <translation>版本說明</translation>
+    </message>
+    <message>
+        <extracomment>openDownloadPage</extracomment>
+        <source>Open Download Page</source>
+        <translation>打開下載頁面</translation>
+    </message>
+    <message>
+        <extracomment>notNow</extracomment>
+        <source>Not Now</source>
+        <translation>稍後再說</translation>
+    </message>
+    <message>
+        <extracomment>ok</extracomment>
+        <source>OK</source>
+        <translation>好</translation>
+    </message>
+    <message>
+        <extracomment>updateFailed</extracomment>
+        <source>Couldn’t check for updates</source>
+        <translation>無法檢查更新</translation>
+    </message>
+    <message>
+        <extracomment>updateErrorOffline</extracomment>
+        <source>The update server could not be reached. Check your internet connection and try again.</source>
+        <translation>連不上更新伺服器。請檢查網路連線後再試一次。</translation>
+    </message>
+    <message>
+        <extracomment>updateErrorTimeout</extracomment>
+        <source>The update server took too long to answer. Try again later.</source>
+        <translation>更新伺服器遲遲沒有回應，請稍後再試。</translation>
+    </message>
+    <message>
+        <extracomment>updateErrorServerFmt</extracomment>
+        <source>The update server answered with an error (%@). Try again later.</source>
+        <translation>更新伺服器回傳了錯誤（%@），請稍後再試。</translation>
+    </message>
+    <message>
+        <extracomment>updateErrorBadFeed</extracomment>
+        <source>The update server sent something that isn’t an update feed.</source>
+        <translation>更新伺服器傳來的內容不是有效的更新資訊。</translation>
+    </message>
 </context>
 </TS>

@@ -6,6 +6,7 @@
 #include "personality/Mood.h"
 #include "personality/Roasts.h"
 #include "settings/AppSettings.h"
+#include "ui/panel/PanelTypes.h"
 
 #include <QQmlEngine>
 
@@ -26,6 +27,7 @@ void registerAll()
     qmlRegisterUncreatableType<SystemMonitor>(uri, 1, 0, "SystemMonitor", QStringLiteral("the one model"));
     qmlRegisterUncreatableType<AppSettings>(uri, 1, 0, "AppSettings", QStringLiteral("AppSettings::shared()"));
     qmlRegisterUncreatableType<Localizer>(uri, 1, 0, "Localizer", QStringLiteral("Localizer::shared()"));
+    PanelTypes::registerAll();
 }
 
 } // namespace QmlTypes

@@ -1,0 +1,163 @@
+#pragma once
+// A small HTTP/1.1 server on 127.0.0.1 for the update tests: each path has a
+// canned answer, every request is counted, and some answers misbehave on
+// purpose (never answer, redirect, stream without end). Every answer closes
+// its connection, so each request the client makes arrives exactly once.
+
+#include <QHash>
+#include <QPointer>
+#include <QTcpServer>
+#include <QTcpSocket>
+#include <QTimer>
+#include <QUrl>
+
+class FeedServer : public QObject {
+public:
+    enum class Kind { body, silent, redirect, endless };
+    struct Route {
+        Kind kind = Kind::body;
+        int status = 200;
+        QByteArray body;
+        QByteArray location; // redirect target
+        bool sendLength = true;
+    };
+
+    FeedServer()
+    {
+        connect(&m_server, &QTcpServer::newConnection, this, [this] {
+            while (QTcpSocket *socket = m_server.nextPendingConnection()) {
+                socket->setParent(this);
+                connect(socket, &QTcpSocket::readyRead, this, [this, socket] { onRead(socket); });
+                connect(socket, &QTcpSocket::disconnected, this, [this, socket] {
+                    m_buffers.remove(socket);
+                    socket->deleteLater();
+                });
+            }
+        });
+        m_server.listen(QHostAddress::LocalHost, 0);
+    }
+
+    QUrl url(const QString &path) const
+    {
+        return QUrl(QStringLiteral("http://127.0.0.1:%1%2").arg(m_server.serverPort()).arg(path));
+    }
+
+    void serve(const QString &path, const QByteArray &body, int status = 200)
+    {
+        Route r;
+        r.body = body;
+        r.status = status;
+        m_routes[path] = r;
+    }
+    void route(const QString &path, const Route &r) { m_routes[path] = r; }
+    void redirect(const QString &path, const QString &to)
+    {
+        Route r;
+        r.kind = Kind::redirect;
+        r.status = 302;
+        r.location = to.toUtf8();
+        m_routes[path] = r;
+    }
+
+    int hits(const QString &path) const { return m_hits.value(path); }
+    int totalHits() const
+    {
+        int n = 0;
+        for (int h : m_hits)
+            n += h;
+        return n;
+    }
+    // Bytes of body written by endless answers before the client went away.
+    qint64 endlessBytesSent() const { return m_endlessSent; }
+
+private:
+    void onRead(QTcpSocket *socket)
+    {
+        // A request on a connection already answered and closing is never
+        // served; the client sends it again on a new one.
+        if (socket->state() != QAbstractSocket::ConnectedState)
+            return;
+        QByteArray &buffer = m_buffers[socket];
+        buffer += socket->readAll();
+        const int end = buffer.indexOf("\r\n\r\n");
+        if (end < 0)
+            return;
+        const QList<QByteArray> requestLine = buffer.left(buffer.indexOf("\r\n")).split(' ');
+        buffer.remove(0, end + 4);
+        const QString path = requestLine.size() > 1 ? QString::fromUtf8(requestLine[1]) : QString();
+        ++m_hits[path];
+        answer(socket, path);
+    }
+
+    static QByteArray reason(int status)
+    {
+        switch (status) {
+        case 200: return "OK";
+        case 302: return "Found";
+        case 404: return "Not Found";
+        case 500: return "Internal Server Error";
+        default: return "Status";
+        }
+    }
+
+    void answer(QTcpSocket *socket, const QString &path)
+    {
+        const auto it = m_routes.constFind(path);
+        Route r;
+        if (it == m_routes.constEnd()) {
+            r.status = 404;
+            r.body = "<html><body>not here</body></html>";
+        } else {
+            r = *it;
+        }
+        QByteArray head = "HTTP/1.1 " + QByteArray::number(r.status) + ' ' + reason(r.status) + "\r\n";
+        switch (r.kind) {
+        case Kind::silent:
+            return; // keeps the connection open and says nothing
+        case Kind::redirect:
+            head += "Location: " + r.location + "\r\nContent-Length: 0\r\nConnection: close\r\n\r\n";
+            socket->write(head);
+            socket->disconnectFromHost();
+            return;
+        case Kind::endless:
+            head += "Content-Type: application/rss+xml\r\nConnection: close\r\n\r\n";
+            socket->write(head);
+            streamForever(socket);
+            return;
+        case Kind::body:
+            head += "Content-Type: application/rss+xml; charset=utf-8\r\n";
+            if (r.sendLength)
+                head += "Content-Length: " + QByteArray::number(r.body.size()) + "\r\n";
+            head += "Connection: close\r\n\r\n";
+            socket->write(head + r.body);
+            socket->disconnectFromHost();
+            return;
+        }
+    }
+
+    // Writes 64 KiB of feed-looking text whenever the client has taken the
+    // last, until it hangs up.
+    void streamForever(QTcpSocket *socket)
+    {
+        QPointer<QTcpSocket> guard(socket);
+        socket->write("<rss version=\"2.0\"><channel>");
+        auto *timer = new QTimer(socket);
+        timer->setInterval(1);
+        connect(timer, &QTimer::timeout, socket, [this, guard] {
+            if (!guard || guard->state() != QAbstractSocket::ConnectedState)
+                return;
+            if (guard->bytesToWrite() > 256 * 1024)
+                return;
+            static const QByteArray chunk = QByteArray("<item><title>padding</title></item>").repeated(1800);
+            guard->write(chunk);
+            m_endlessSent += chunk.size();
+        });
+        timer->start();
+    }
+
+    QTcpServer m_server;
+    QHash<QString, Route> m_routes;
+    QHash<QString, int> m_hits;
+    QHash<QTcpSocket *, QByteArray> m_buffers;
+    qint64 m_endlessSent = 0;
+};
