@@ -3,16 +3,20 @@
 # any are missing. Uses sudo when not run as root.
 #   scripts/deps.sh          build and run
 #   scripts/deps.sh --test   also what the tests need
-#   scripts/deps.sh --fuzz   also clang and libFuzzer for fuzz/ (flags combine)
+#   scripts/deps.sh --fuzz   also clang and libFuzzer for fuzz/
+#   scripts/deps.sh --bench  also what the benchmark scripts in bench/ run
+# (flags combine)
 set -euo pipefail
 
 test=
 fuzz=
+bench=
 for arg in "$@"; do
     case $arg in
     --test) test=1 ;;
     --fuzz) fuzz=1 ;;
-    *) echo "usage: $0 [--test] [--fuzz]" >&2; exit 2 ;;
+    --bench) bench=1 ;;
+    *) echo "usage: $0 [--test] [--fuzz] [--bench]" >&2; exit 2 ;;
     esac
 done
 
@@ -22,11 +26,22 @@ packages=(
     libicu-dev libgl-dev
     qml6-module-qtquick qml6-module-qtquick-controls qml6-module-qtquick-layouts
     qml6-module-qtquick-window qml6-module-qtquick-templates qml6-module-qtqml-workerscript
+    qt6-qpa-plugins
     fonts-noto-color-emoji fonts-noto-cjk fonts-noto-core
     libqt6svg6 librsvg2-bin dpkg-dev
 )
 if [[ -n $test ]]; then
     packages+=(locales xvfb xauth procps desktop-file-utils appstream man-db)
+    # A private session bus for the tray and desktop tests; real tray hosts
+    # for the end-to-end tests: GNOME Shell with the AppIndicator extension
+    # (draws labels) and xfce4-panel (draws icons only).
+    packages+=(dbus-daemon dbus-bin libglib2.0-bin x11-utils xdotool
+        gnome-shell gnome-shell-extension-appindicator dconf-service dconf-gsettings-backend
+        xfce4-panel xfconf)
+fi
+if [[ -n $bench ]]; then
+    # callgrind, and i3status as the baseline the bar is measured against.
+    packages+=(valgrind i3status bc time procps)
 fi
 if [[ -n $fuzz ]]; then
     # llvm brings llvm-symbolizer, for readable reports.

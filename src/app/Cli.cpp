@@ -1,22 +1,22 @@
 #include "app/Cli.h"
 
+#include "app/BarLine.h"
 #include "app/JsonExport.h"
 #include "settings/Settings.h"
 #include "app/Snapshot.h"
 #include "app/StatusText.h"
 #include "l10n/Fmt.h"
 #include "l10n/Localizer.h"
+#include "model/Scheduler.h"
 #include "model/SystemMonitor.h"
 #include "personality/MoodEngine.h"
 #include "sampling/LinuxSamplers.h"
-#include "ui/MenuBarLabel.h"
 
 #include <QCommandLineParser>
 #include <QCoreApplication>
 #include <QElapsedTimer>
 #include <QEventLoop>
 #include <QFileInfo>
-#include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QTimer>
@@ -25,6 +25,7 @@
 #include <cmath>
 #include <csignal>
 #include <cstdio>
+#include <cstdlib>
 #include <unistd.h>
 
 namespace Cli {
@@ -131,50 +132,72 @@ int runStatus(const SystemRoots &roots, bool json)
 
 // --- bar --------------------------------------------------------------------
 
-enum class BarFormat { plain, waybar, i3bar };
+using BarFormat = BarLine::Format;
 
-QByteArray barLine(const SystemMonitor &monitor, BarFormat format, bool first)
+// A simulated clock for benchmarks and tests, never mentioned in the help:
+// SULKBOX_FAKE_CLOCK=START[,TICKS]. `bar` starts at START (ISO 8601; local
+// time unless it carries an offset) and each tick moves the clock on by the
+// interval instead of waiting for it: TICKS ticks back to back, or without
+// TICKS one tick per line read from standard input until it ends.
+struct FakeClock {
+    QDateTime start;
+    int ticks = -1; // -1: one per input line
+};
+
+std::optional<FakeClock> fakeClockFromEnvironment()
 {
-    const Localizer &loc = Localizer::shared();
-    const QString label = MenuBarLabel::text(monitor, loc);
-    const Mood &shown = monitor.reactionOrMood();
-    switch (format) {
-    case BarFormat::plain:
-        return (label + u'\n').toUtf8();
-    case BarFormat::waybar: {
-        QJsonObject o{{u"text"_qs, label},
-                      {u"tooltip"_qs, MenuBarLabel::phrase(shown, loc) + u'\n' + MenuBarLabel::reason(shown, loc)
-                                          + u'\n' + StatusText::headline(monitor, loc)},
-                      {u"class"_qs, moodKindName(shown.kind())},
-                      {u"alt"_qs, moodKindName(shown.kind())},
-                      {u"percentage"_qs, qRound(monitor.cpu().total * 100)}};
-        return QJsonDocument(o).toJson(QJsonDocument::Compact) + '\n';
+    const QString value = qEnvironmentVariable("SULKBOX_FAKE_CLOCK");
+    if (value.isEmpty())
+        return std::nullopt;
+    FakeClock clock;
+    clock.start = QDateTime::fromString(value.section(u',', 0, 0), Qt::ISODateWithMs);
+    if (!clock.start.isValid())
+        return std::nullopt;
+    if (value.contains(u',')) {
+        bool ok = false;
+        clock.ticks = value.section(u',', 1, 1).toInt(&ok);
+        if (!ok || clock.ticks < 0)
+            return std::nullopt;
     }
-    case BarFormat::i3bar: {
-        QJsonObject block{{u"name"_qs, u"sulkbox"_qs},
-                          {u"full_text"_qs, label},
-                          {u"short_text"_qs, shown.emoji()},
-                          {u"color"_qs, shown.tint().name()}};
-        const QByteArray body = QJsonDocument(QJsonArray{block}).toJson(QJsonDocument::Compact);
-        return (first ? QByteArray() : QByteArray(",")) + body + '\n';
-    }
-    }
-    return {};
+    return clock;
 }
 
 int runBar(const SystemRoots &roots, BarFormat format)
 {
     // A closed reader must end us with status 0, not kill us.
     std::signal(SIGPIPE, SIG_IGN);
-    if (format == BarFormat::i3bar && !writeOut("{\"version\":1}\n[\n"))
+    BarLine bar(format);
+    if (!writeOut(bar.header()))
         return 0;
 
-    // The hidden panel's schedule: fast readers every tick, slow every 9th.
-    SystemMonitor monitor(std::make_shared<LinuxSamplers>(roots));
-    if (!writeOut(barLine(monitor, format, true)))
+    auto samplers = std::make_shared<LinuxSamplers>(roots);
+    const std::optional<FakeClock> fake = fakeClockFromEnvironment();
+    if (fake) {
+        ManualScheduler scheduler(fake->start);
+        samplers->setRateClock([&scheduler] { return scheduler.now().toMSecsSinceEpoch() / 1000.0; });
+        SystemMonitor monitor(samplers, scheduler);
+        if (!writeOut(bar.next(monitor)))
+            return 0;
+        for (int done = 0; fake->ticks < 0 || done < fake->ticks; ++done) {
+            if (fake->ticks < 0) {
+                char line[256];
+                if (!std::fgets(line, sizeof line, stdin))
+                    break;
+            }
+            scheduler.advance(std::lround(monitor.currentInterval() * 1000));
+            monitor.tick();
+            if (!writeOut(bar.next(monitor)))
+                break;
+        }
         return 0;
-    QObject::connect(&monitor, &SystemMonitor::ticked, &monitor, [&monitor, format] {
-        if (!writeOut(barLine(monitor, format, false)))
+    }
+
+    // The hidden panel's schedule: fast readers every tick, slow every 9th.
+    SystemMonitor monitor(samplers);
+    if (!writeOut(bar.next(monitor)))
+        return 0;
+    QObject::connect(&monitor, &SystemMonitor::ticked, &monitor, [&monitor, &bar] {
+        if (!writeOut(bar.next(monitor)))
             QCoreApplication::exit(0);
     });
     return QCoreApplication::exec();
@@ -197,7 +220,8 @@ int run(const QStringList &arguments)
         "  bar             One label line per tick, for status bars.\n"
         "  capture FILE    Save the /proc and /sys files sulkbox reads, as FILE.tar.gz,\n"
         "                  to replay with --root.\n\n"
-        "Without a command the desktop face starts."));
+        "Without a command the desktop face starts: a tray item in the top bar whose\n"
+        "panel opens on a click. Started again, it opens the running one's panel."));
     parser.addHelpOption();
     parser.addVersionOption();
     const QCommandLineOption jsonOption(QStringLiteral("json"), QStringLiteral("status: print every record as JSON."));
@@ -276,7 +300,12 @@ int run(const QStringList &arguments)
             format = BarFormat::i3bar;
         else
             return usageError(QStringLiteral("unknown bar format '%1' (plain, waybar, i3bar).").arg(f));
-        return runBar(roots, format);
+        // A feed ends without the libraries' teardown: it has nothing to
+        // save, and destructors that never ran before would be paged in
+        // just to free what the kernel frees anyway.
+        const int status = runBar(roots, format);
+        std::fflush(nullptr);
+        std::_Exit(status);
     }
     if (positional.size() != 2)
         return usageError(QStringLiteral("capture needs one FILE.tar.gz."));

@@ -197,13 +197,4 @@ QStringList moduleLines(const SystemMonitor &m, const Localizer &loc)
     return padded(rows);
 }
 
-QString headline(const SystemMonitor &m, const Localizer &loc)
-{
-    return QStringList{QStringLiteral("CPU ") + Fmt::percent(m.cpu().total, 0),
-                       loc.t(LocKey::memory) + u' ' + Fmt::percent(m.memory().pressure, 0),
-                       QStringLiteral("↓ ") + rate(m.network().downRate),
-                       QStringLiteral("↑ ") + rate(m.network().upRate)}
-        .join(sep);
-}
-
 } // namespace StatusText

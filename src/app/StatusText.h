@@ -1,6 +1,6 @@
 #pragma once
-// The one-shot summary of `sulkbox status` and the tooltips of `sulkbox bar`:
-// the label line, then one line per module, in the interface language.
+// The one-shot summary of `sulkbox status`: the label line, then one line
+// per module, in the interface language.
 
 #include <QStringList>
 
@@ -20,8 +20,5 @@ QStringList moduleLines(const SystemMonitor &monitor, const Localizer &loc);
 // Hangul, most emoji) two, combining marks (Thai vowels above and below, tone
 // marks) and invisible format characters none, everything else one.
 int displayWidth(const QString &text);
-
-// The few figures a bar tooltip carries: CPU, memory, network.
-QString headline(const SystemMonitor &monitor, const Localizer &loc);
 
 } // namespace StatusText

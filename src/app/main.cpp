@@ -1,6 +1,7 @@
 // sulkbox: a desktop system monitor with a personality.
 
 #include "app/Cli.h"
+#include "app/DesktopLauncher.h"
 
 #include <QCoreApplication>
 
@@ -9,6 +10,9 @@ int main(int argc, char **argv)
     QStringList arguments;
     for (int i = 0; i < argc; ++i)
         arguments.append(QString::fromLocal8Bit(argv[i]));
+    // No command: the desktop face takes this process over.
+    if (!Cli::wantsCommandLine(arguments))
+        return DesktopLauncher::exec(argc, argv);
 
     QCoreApplication::setApplicationName(QStringLiteral("sulkbox"));
     QCoreApplication::setOrganizationName(QStringLiteral("sulkbox"));
@@ -19,7 +23,5 @@ int main(int argc, char **argv)
     if (qEnvironmentVariableIsEmpty("QT_NO_GLIB"))
         qputenv("QT_NO_GLIB", "1");
     QCoreApplication app(argc, argv);
-    if (!Cli::wantsCommandLine(arguments))
-        arguments.append(QStringLiteral("--help"));
     return Cli::run(arguments);
 }

@@ -152,6 +152,8 @@ constexpr const char16_t *englishTexts[locKeyCount] = {
     u"The update server took too long to answer. Try again later.", // updateErrorTimeout
     u"The update server answered with an error (%@). Try again later.", // updateErrorServerFmt
     u"The update server sent something that isn’t an update feed.", // updateErrorBadFeed
+    u"Open panel", // openPanel
+    u"Preferences…", // openPreferences
 };
 
 } // namespace

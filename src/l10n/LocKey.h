@@ -159,6 +159,9 @@ enum class LocKey {
     updateErrorTimeout,
     updateErrorServerFmt,
     updateErrorBadFeed,
+    // The tray item's menu.
+    openPanel,
+    openPreferences,
 };
 Q_ENUM_NS(LocKey)
 
@@ -166,7 +169,7 @@ Q_ENUM_NS(LocKey)
 
 using LocKey = LocKeys::LocKey;
 
-inline constexpr int locKeyCount = 146;
+inline constexpr int locKeyCount = 148;
 
 // All keys in their declared order.
 const std::array<LocKey, locKeyCount> &allLocKeys();

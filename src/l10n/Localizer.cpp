@@ -3,6 +3,7 @@
 #include "settings/AppSettings.h"
 #include "settings/Settings.h"
 
+#include <QCoreApplication>
 #include <QHash>
 #include <QLocale>
 #include <QTranslator>
@@ -69,9 +70,12 @@ const QHash<AppLanguage, std::shared_ptr<QTranslator>> &translators()
 
 Localizer::Localizer()
 {
-    reload();
+    apply(languageFromRawText(Settings::text(Settings::Key::appLanguage)).value_or(AppLanguage::system), true);
     // The language follows the setting wherever it is changed.
     connect(&AppSettings::shared(), &AppSettings::appLanguageChanged, this, &Localizer::reload);
+    // A locale change is announced to the application object.
+    if (QCoreApplication *app = QCoreApplication::instance())
+        app->installEventFilter(this);
 }
 
 Localizer &Localizer::shared()
@@ -80,28 +84,48 @@ Localizer &Localizer::shared()
     return *instance;
 }
 
+void Localizer::apply(AppLanguage lang, bool askSystem)
+{
+    if (askSystem)
+        m_system = systemLanguage();
+    const AppLanguage concrete = lang == AppLanguage::system ? m_system : lang;
+    if (lang == m_language && concrete == m_concrete)
+        return;
+    m_language = lang;
+    if (concrete != m_concrete)
+        m_texts = {};
+    m_concrete = concrete;
+    emit languageChanged();
+}
+
 void Localizer::reload()
 {
     const auto stored = languageFromRawText(Settings::text(Settings::Key::appLanguage));
-    const AppLanguage lang = stored.value_or(AppLanguage::system);
-    if (lang != m_language) {
-        m_language = lang;
-        emit languageChanged();
-    }
+    apply(stored.value_or(AppLanguage::system), true);
+}
+
+void Localizer::systemLocaleChanged()
+{
+    apply(m_language, true);
+}
+
+bool Localizer::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::LocaleChange && watched == QCoreApplication::instance())
+        systemLocaleChanged();
+    return false;
 }
 
 void Localizer::setLanguage(AppLanguage lang)
 {
     Settings::set(Settings::Key::appLanguage, languageRawText(lang));
-    if (lang == m_language)
-        return;
-    m_language = lang;
-    emit languageChanged();
+    // Writing the setting may already have announced it (through reload).
+    apply(lang, lang == AppLanguage::system);
 }
 
 AppLanguage Localizer::concrete() const
 {
-    return m_language == AppLanguage::system ? systemLanguage() : m_language;
+    return m_concrete;
 }
 
 AppLanguage Localizer::languageForTag(const QString &tag)
@@ -139,8 +163,23 @@ AppLanguage Localizer::languageForPreferred(const QStringList &preferred)
     return languageForTag(chosen);
 }
 
+namespace {
+std::function<QStringList()> &preferredSource()
+{
+    static std::function<QStringList()> source;
+    return source;
+}
+} // namespace
+
+void Localizer::setPreferredLanguagesSource(std::function<QStringList()> source)
+{
+    preferredSource() = std::move(source);
+}
+
 AppLanguage Localizer::systemLanguage()
 {
+    if (const auto &source = preferredSource())
+        return languageForPreferred(source());
     // Qt builds this list from LANGUAGE, LC_ALL, LC_MESSAGES and LANG.
     return languageForPreferred(QLocale::system().uiLanguages());
 }
@@ -179,13 +218,19 @@ QString Localizer::fill(const QString &format, const QStringList &args)
 
 QString Localizer::t(LocKey key, const QStringList &args) const
 {
-    const AppLanguage lang = concrete();
-    QString text = rawValue(key);
-    if (lang != AppLanguage::en) {
-        if (auto translated = tableText(key, lang))
-            text = *translated;
+    const int index = int(key);
+    if (index < 0 || index >= locKeyCount)
+        return {};
+    // Each text is looked up once per language; the lookup converts and
+    // hashes the English text.
+    std::optional<QString> &text = m_texts[size_t(index)];
+    if (!text) {
+        if (m_concrete != AppLanguage::en)
+            text = tableText(key, m_concrete);
+        if (!text)
+            text = rawValue(key);
     }
-    return fill(text, args);
+    return fill(*text, args);
 }
 
 QString Localizer::pickerName(AppLanguage lang) const

@@ -4,10 +4,13 @@
 
 #include "l10n/LocKey.h"
 
+#include <QEvent>
 #include <QObject>
 #include <QString>
 #include <QStringList>
 
+#include <array>
+#include <functional>
 #include <optional>
 
 namespace AppLanguages {
@@ -40,6 +43,11 @@ public:
 
     // The concrete language for the operating system's preference.
     static AppLanguage systemLanguage();
+    // Where the system's ordered preferred languages come from: Qt's reading
+    // of LANGUAGE, LC_ALL, LC_MESSAGES and LANG unless tests hand in their
+    // own (an empty function restores it). Takes effect at the next
+    // resolution, such as systemLocaleChanged().
+    static void setPreferredLanguagesSource(std::function<QStringList()> source);
     // The mapping of one language tag (zh-Hant-TW → zhHant, de → en).
     static AppLanguage languageForTag(const QString &tag);
     // The language for an ordered list of preferred tags, as Qt reports them.
@@ -61,11 +69,27 @@ public:
 
     // Re-reads "appLanguage" from the settings (for tests and `--lang`).
     void reload();
+    // Asks the system for its preferred languages again. Runs by itself when
+    // the application hears that the locale changed.
+    void systemLocaleChanged();
 
 signals:
+    // The choice or the language it resolves to changed.
     void languageChanged();
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
     Localizer();
+    // Sets the choice and its resolution; announces a change of either.
+    void apply(AppLanguage lang, bool askSystem);
+
     AppLanguage m_language = AppLanguage::system;
+    // The system's preference, resolved when the choice or the locale
+    // changes rather than on every lookup (it reads the environment).
+    AppLanguage m_system = AppLanguage::en;
+    AppLanguage m_concrete = AppLanguage::en;
+    // The texts of m_concrete looked up so far, by key.
+    mutable std::array<std::optional<QString>, locKeyCount> m_texts;
 };

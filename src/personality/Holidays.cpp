@@ -1,87 +1,60 @@
 #include "personality/Holidays.h"
 
-#include <unicode/calendar.h>
-#include <unicode/locid.h>
-#include <unicode/timezone.h>
+#include "personality/LunarRules.h"
 
+#include <algorithm>
 #include <atomic>
-#include <memory>
+#include <iterator>
 
 namespace Holidays {
 
 namespace {
 
+struct LunarDay {
+    short year;
+    signed char month;
+    signed char day;
+    Festival festival;
+};
+
+// kLunarFirstYear, kLunarLastYear and kLunarDays: every day from the first
+// to the last year on which LunarRules finds a festival, in date order.
+#include "LunarFestivals.inc"
+
 std::atomic<quint64> g_computeCount{0};
-
-struct Day {
-    int year = 0;
-    int month = 0;
-    int day = 0;
-    bool operator==(const Day &) const = default;
-};
-
-std::unique_ptr<icu::Calendar> makeCalendar(const char *locale)
-{
-    UErrorCode status = U_ZERO_ERROR;
-    std::unique_ptr<icu::Calendar> cal(icu::Calendar::createInstance(icu::Locale(locale), status));
-    if (U_FAILURE(status))
-        return nullptr;
-    return cal;
-}
-
-// The two calendars and the one-day cache, made on first use (a function
-// static, so a first use from any thread is safe). After that only the main
-// thread touches them.
-struct Shared {
-    std::unique_ptr<icu::Calendar> gregorian = makeCalendar("en@calendar=gregorian");
-    std::unique_ptr<icu::Calendar> chinese = makeCalendar("zh@calendar=chinese");
-    std::optional<Day> cachedDay;
-    std::optional<Greeting> cachedGreeting;
-    // The cached day as an instant range [dayStart, dayEnd), so lookups
-    // within the day need no calendar work at all.
-    UDate dayStart = 0;
-    UDate dayEnd = 0;
-};
-
-Shared &shared()
-{
-    static Shared instance;
-    return instance;
-}
-
-bool monthAndDay(icu::Calendar &cal, UDate when, int &month, int &day)
-{
-    UErrorCode status = U_ZERO_ERROR;
-    cal.setTime(when, status);
-    month = cal.get(UCAL_MONTH, status) + 1;
-    day = cal.get(UCAL_DATE, status);
-    return U_SUCCESS(status);
-}
-
-// ICU's lunar calendar starts these two years a day away from the published
-// calendars: the new moon falls within minutes of midnight in China (6
-// February 2027 at 23:56, 3 February 2030 at 00:07), closer than its moon
-// tables can tell apart. The published day wins; every other festival from
-// 2000 to 2040 agrees with ICU.
-struct NewYearFix {
-    int year;
-    int month, day;       // the published Spring Festival
-    int icuMonth, icuDay; // the day ICU calls lunar 1/1
-};
-constexpr NewYearFix kNewYearFixes[] = {{2027, 2, 6, 2, 7}, {2030, 2, 3, 2, 2}};
 
 Greeting greeting(const char16_t *emoji, LocKey phrase)
 {
     return Greeting{QString::fromUtf16(emoji), phrase, LocKey::holCheer};
 }
 
-std::optional<Greeting> rules(icu::Calendar *gregorian, icu::Calendar *chinese, UDate when)
+// The lunar festival of a civil date: from the table built with the
+// application, else from a Chinese calendar made for the one question and
+// dropped again (a day outside the table's two centuries).
+Festival lunarFestival(const QDate &date)
+{
+    const int y = date.year();
+    const int m = date.month();
+    const int d = date.day();
+    if (y >= kLunarFirstYear && y <= kLunarLastYear) {
+        const auto key = [](int year, int month, int day) { return (year * 16 + month) * 32 + day; };
+        const int wanted = key(y, m, d);
+        const auto it = std::lower_bound(std::begin(kLunarDays), std::end(kLunarDays), wanted,
+                                         [&key](const LunarDay &e, int k) { return key(e.year, e.month, e.day) < k; });
+        return it != std::end(kLunarDays) && key(it->year, it->month, it->day) == wanted ? it->festival
+                                                                                           : Festival::none;
+    }
+    LunarRules rules;
+    return rules.festival(y, m, d);
+}
+
+std::optional<Greeting> rules(const QDate &date)
 {
     ++g_computeCount;
-    int m = 0;
-    int d = 0;
-    if (!gregorian || !monthAndDay(*gregorian, when, m, d))
+    if (!date.isValid())
         return std::nullopt;
+    const int m = date.month();
+    const int d = date.day();
     if (m == 1 && d == 1)
         return greeting(u"\U0001F973", LocKey::holNewYear);
     if (m == 2 && d == 14)
@@ -90,45 +63,27 @@ std::optional<Greeting> rules(icu::Calendar *gregorian, icu::Calendar *chinese, 
         return greeting(u"\U0001F383", LocKey::holHalloween);
     if (m == 12 && (d == 24 || d == 25))
         return greeting(u"\U0001F384", LocKey::holChristmas);
-
-    UErrorCode status = U_ZERO_ERROR;
-    const int year = gregorian->get(UCAL_EXTENDED_YEAR, status);
-    for (const NewYearFix &fix : kNewYearFixes) {
-        if (year != fix.year)
-            continue;
-        if (m == fix.month && d == fix.day)
-            return greeting(u"\U0001F9E7", LocKey::holSpring);
-        if (m == fix.icuMonth && d == fix.icuDay)
-            return std::nullopt;
-    }
-
-    // The lunar month number alone; a leap month counts as its namesake.
-    if (!chinese || !monthAndDay(*chinese, when, m, d))
-        return std::nullopt;
-    if (m == 8 && d == 15)
+    switch (lunarFestival(date)) {
+    case Festival::midAutumn:
         return greeting(u"\U0001F96E", LocKey::holMidAutumn);
-    if (m == 5 && d == 5)
+    case Festival::dragonBoat:
         return greeting(u"\U0001F409", LocKey::holDragonBoat);
-    if (m == 1 && d == 1)
+    case Festival::springFestival:
         return greeting(u"\U0001F9E7", LocKey::holSpring);
+    case Festival::none:
+        break;
+    }
     return std::nullopt;
 }
 
-// Keeps the shared calendars in ICU's current default zone (tests move it).
-// Checked whenever a lookup leaves the cached day.
-void followDefaultZone(Shared &s)
-{
-    if (!s.gregorian || !s.chinese)
-        return;
-    std::unique_ptr<icu::TimeZone> zone(icu::TimeZone::createDefault());
-    if (!zone || *zone == s.gregorian->getTimeZone())
-        return;
-    s.gregorian->setTimeZone(*zone);
-    s.chinese->setTimeZone(*zone);
-    s.cachedDay.reset();
-    s.cachedGreeting.reset();
-    s.dayStart = s.dayEnd = 0;
-}
+// The one-day cache: the day last asked for, its greeting, and the instants
+// [dayStart, dayEnd) it spans, so lookups within the day cost a comparison.
+struct Cache {
+    std::optional<QDate> day;
+    std::optional<Greeting> greeting;
+    qint64 dayStart = 0;
+    qint64 dayEnd = 0;
+};
 
 } // namespace
 
@@ -136,52 +91,33 @@ std::optional<Greeting> compute(const QDateTime &date)
 {
     if (!date.isValid())
         return std::nullopt;
-    // Own calendars, so this never races the cached path.
-    auto gregorian = makeCalendar("en@calendar=gregorian");
-    auto chinese = makeCalendar("zh@calendar=chinese");
-    return rules(gregorian.get(), chinese.get(), UDate(date.toMSecsSinceEpoch()));
+    return rules(date.toLocalTime().date());
 }
 
 std::optional<Greeting> today(const QDateTime &date)
 {
     if (!date.isValid())
         return std::nullopt;
-    Shared &s = shared();
-    if (!s.gregorian)
-        return std::nullopt;
-    const UDate when = UDate(date.toMSecsSinceEpoch());
-    if (s.cachedDay && when >= s.dayStart && when < s.dayEnd)
-        return s.cachedGreeting;
+    static Cache cache;
+    const qint64 when = date.toMSecsSinceEpoch();
+    if (cache.day && when >= cache.dayStart && when < cache.dayEnd)
+        return cache.greeting;
 
-    followDefaultZone(s);
-    UErrorCode status = U_ZERO_ERROR;
-    icu::Calendar &cal = *s.gregorian;
-    cal.setTime(when, status);
-    const Day day{cal.get(UCAL_EXTENDED_YEAR, status), cal.get(UCAL_MONTH, status) + 1,
-                  cal.get(UCAL_DATE, status)};
-    if (U_FAILURE(status))
-        return std::nullopt;
-    if (!(s.cachedDay && *s.cachedDay == day)) {
-        s.cachedGreeting = rules(s.gregorian.get(), s.chinese.get(), when);
-        s.cachedDay = day;
+    const QDate day = date.toLocalTime().date();
+    if (!(cache.day && *cache.day == day)) {
+        cache.greeting = rules(day);
+        cache.day = day;
     }
-
     // Local midnight before and after `when`.
-    cal.setTime(when, status);
-    cal.set(UCAL_HOUR_OF_DAY, 0);
-    cal.set(UCAL_MINUTE, 0);
-    cal.set(UCAL_SECOND, 0);
-    cal.set(UCAL_MILLISECOND, 0);
-    const UDate start = cal.getTime(status);
-    cal.add(UCAL_DATE, 1, status);
-    const UDate end = cal.getTime(status);
-    if (U_SUCCESS(status) && start <= when && when < end) {
-        s.dayStart = start;
-        s.dayEnd = end;
+    const QDateTime start(day, QTime(0, 0));
+    const QDateTime end(day.addDays(1), QTime(0, 0));
+    if (start.isValid() && end.isValid() && start.toMSecsSinceEpoch() <= when && when < end.toMSecsSinceEpoch()) {
+        cache.dayStart = start.toMSecsSinceEpoch();
+        cache.dayEnd = end.toMSecsSinceEpoch();
     } else {
-        s.dayStart = s.dayEnd = 0;
+        cache.dayStart = cache.dayEnd = 0;
     }
-    return s.cachedGreeting;
+    return cache.greeting;
 }
 
 quint64 computeCount()

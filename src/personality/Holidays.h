@@ -2,7 +2,11 @@
 // Seven holidays on two calendars: New Year, Valentine's Day, Halloween and
 // Christmas on the Gregorian one; Mid-Autumn, Dragon Boat and Spring
 // Festival on the Chinese lunisolar one. Days run from local midnight to
-// local midnight in the user's time zone (ICU's default zone).
+// local midnight in the system's time zone (TZ, else /etc/localtime).
+//
+// The lunar festivals come from a table of their Gregorian dates that the
+// build works out with ICU (LunarRules), so a lookup never builds an ICU
+// calendar, whose code and data would stay resident for the whole run.
 
 #include "l10n/LocKey.h"
 

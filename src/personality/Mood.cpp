@@ -31,10 +31,10 @@ std::optional<MoodKind> moodKindFromName(const QString &name)
 
 QString Rgb::name() const
 {
-    return QStringLiteral("#%1%2%3")
-        .arg(r & 0xff, 2, 16, QLatin1Char('0'))
-        .arg(g & 0xff, 2, 16, QLatin1Char('0'))
-        .arg(b & 0xff, 2, 16, QLatin1Char('0'));
+    static constexpr char digits[] = "0123456789abcdef";
+    const char text[] = {'#', digits[(r >> 4) & 0xf], digits[r & 0xf], digits[(g >> 4) & 0xf],
+                         digits[g & 0xf], digits[(b >> 4) & 0xf], digits[b & 0xf]};
+    return QString::fromLatin1(text, sizeof text);
 }
 
 Rgb tintColor(Tint tint)

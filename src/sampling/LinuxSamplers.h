@@ -16,6 +16,7 @@
 
 #include <QMutex>
 
+#include <functional>
 #include <memory>
 
 class LinuxSamplers : public Samplers {
@@ -23,6 +24,10 @@ public:
     explicit LinuxSamplers(SystemRoots roots = {});
 
     const SystemRoots &roots() const { return m_roots; }
+
+    // The steady clock (seconds) that network rates divide by; a simulated
+    // run hands in its own.
+    void setRateClock(std::function<double()> clock) { m_network.setClock(std::move(clock)); }
 
     QString cpuBrand() override;
     CPUSample readCPU() override;

@@ -32,45 +32,60 @@ enum Field {
     FieldCount
 };
 
-struct Key {
-    const char *name;
-    qsizetype length;
-};
-
-constexpr Key keys[FieldCount] = {
-    {"MemTotal", 8},     {"MemFree", 7},      {"MemAvailable", 12}, {"Buffers", 7},     {"Cached", 6},
-    {"SReclaimable", 12}, {"SUnreclaim", 10}, {"Unevictable", 11},  {"KernelStack", 11}, {"PageTables", 10},
-    {"SwapTotal", 9},    {"SwapFree", 8},     {"Zswap", 5},
-};
+// The field a meminfo key names, decided by its length and then at most
+// three comparisons; -1 for the ~40 keys we do not read.
+int fieldOf(const char *name, qsizetype length)
+{
+    auto is = [name, length](const char *key) { return std::memcmp(name, key, size_t(length)) == 0; };
+    switch (length) {
+    case 5:
+        return is("Zswap") ? Zswap : -1;
+    case 6:
+        return is("Cached") ? Cached : -1;
+    case 7:
+        return is("MemFree") ? MemFree : is("Buffers") ? Buffers : -1;
+    case 8:
+        return is("MemTotal") ? MemTotal : is("SwapFree") ? SwapFree : -1;
+    case 9:
+        return is("SwapTotal") ? SwapTotal : -1;
+    case 10:
+        return is("SUnreclaim") ? SUnreclaim : is("PageTables") ? PageTables : -1;
+    case 11:
+        return is("Unevictable") ? Unevictable : is("KernelStack") ? KernelStack : -1;
+    case 12:
+        return is("MemAvailable") ? MemAvailable : is("SReclaimable") ? SReclaimable : -1;
+    default:
+        return -1;
+    }
+}
 
 // Fills `kb` from meminfo's "Name:   1234 kB" lines; `seen` marks what was
-// found. Lines it does not know, or cannot parse, are skipped.
+// found. Lines it does not know, or cannot parse, are skipped; the first line
+// of a key counts. Reading stops once every key has been found (about half
+// way down on current kernels).
 void parseMeminfo(const QByteArray &text, double (&kb)[FieldCount], bool (&seen)[FieldCount])
 {
     const char *p = text.constData();
     const char *const end = p + text.size();
-    while (p < end) {
+    int missing = FieldCount;
+    while (p < end && missing > 0) {
         const char *eol = static_cast<const char *>(std::memchr(p, '\n', size_t(end - p)));
         if (!eol)
             eol = end;
         const char *colon = static_cast<const char *>(std::memchr(p, ':', size_t(eol - p)));
-        if (colon) {
-            const qsizetype nameLength = colon - p;
-            for (int f = 0; f < FieldCount; ++f) {
-                if (seen[f] || keys[f].length != nameLength || std::memcmp(p, keys[f].name, size_t(nameLength)) != 0)
-                    continue;
-                const char *v = colon + 1;
-                while (v < eol && *v == ' ')
-                    ++v;
-                const char *digitsEnd = v;
-                while (digitsEnd < eol && *digitsEnd >= '0' && *digitsEnd <= '9')
-                    ++digitsEnd;
-                const bool whole = digitsEnd == eol || *digitsEnd == ' ';
-                if (const auto value = whole ? SysFs::parseUnsigned(v, digitsEnd) : std::nullopt) {
-                    kb[f] = double(*value);
-                    seen[f] = true;
-                }
-                break;
+        const int f = colon ? fieldOf(p, colon - p) : -1;
+        if (f >= 0 && !seen[f]) {
+            const char *v = colon + 1;
+            while (v < eol && *v == ' ')
+                ++v;
+            const char *digitsEnd = v;
+            while (digitsEnd < eol && *digitsEnd >= '0' && *digitsEnd <= '9')
+                ++digitsEnd;
+            const bool whole = digitsEnd == eol || *digitsEnd == ' ';
+            if (const auto value = whole ? SysFs::parseUnsigned(v, digitsEnd) : std::nullopt) {
+                kb[f] = double(*value);
+                seen[f] = true;
+                --missing;
             }
         }
         p = eol + 1;

@@ -192,4 +192,12 @@ Source Nvml::sharedSource()
     };
 }
 
+Source Nvml::openedSource()
+{
+    return [] {
+        Nvml &lib = Nvml::shared();
+        return lib.state() == State::ready ? lib.readAll() : std::vector<NvmlReading>{};
+    };
+}
+
 } // namespace nvml

@@ -7,7 +7,8 @@
 // noticeable while when the driver is not persistent) happens once, on a
 // background thread started by the first ready() call, and is kept for the
 // life of the process. Until it has finished, ready() is false and readers
-// simply have no NVIDIA figures that tick.
+// simply have no NVIDIA figures that tick. Only the GPU readings of an open
+// panel open it: `sulkbox bar` and a closed panel never load the library.
 
 #include <functional>
 #include <string>
@@ -55,8 +56,13 @@ public:
     // One reading per device, in the library's order. Empty when not ready.
     std::vector<NvmlReading> readAll();
 
-    // A Source over shared() that never blocks.
+    // A Source over shared() that never blocks. Its first call starts the
+    // background open.
     static Source sharedSource();
+    // A Source over shared() that answers only once something else has
+    // opened the library, and never opens it itself: for readers that run
+    // whether or not anyone looks at GPU figures.
+    static Source openedSource();
 
     Nvml(const Nvml &) = delete;
     Nvml &operator=(const Nvml &) = delete;

@@ -72,8 +72,10 @@ SensorMonitor::SensorMonitor(SystemRoots roots, SMC &smc)
     : m_roots(std::move(roots))
     , m_smc(smc)
 {
+    // Sensors are read with the panel closed too: NVIDIA temperatures join
+    // once a GPU reading has opened the library, never before.
     if (m_roots.live)
-        m_nvidia = nvml::Nvml::sharedSource();
+        m_nvidia = nvml::Nvml::openedSource();
 }
 
 quint8 SensorMonitor::classify(const QString &name)

@@ -25,7 +25,8 @@ public:
     SensorSample read();
 
     // Where NVIDIA temperatures come from; by default the management
-    // library when the roots are live, none otherwise.
+    // library when the roots are live and something else has opened it,
+    // none otherwise.
     void setNvidiaSource(nvml::Source source) { m_nvidia = std::move(source); }
 
     // The classes a reading's name belongs to (bits of SensorClass); a

@@ -241,12 +241,12 @@ QVariant value(Key key)
 
 bool flag(Key key)
 {
-    return value(key).toBool();
+    return loaded().effective[index(key)].toBool();
 }
 
 double number(Key key)
 {
-    return value(key).toDouble();
+    return loaded().effective[index(key)].toDouble();
 }
 
 QString text(Key key)

@@ -263,6 +263,34 @@ private slots:
         Settings::store().sync();
     }
 
+    void onlyGpuReadingsLoadTheGpuLibrary()
+    {
+        // The dynamic linker says which libraries a process looks for. The
+        // open panel of `status` reads the GPU and so looks for NVIDIA's
+        // library; `bar` reads sensors too, every ninth tick, but never
+        // looks for it, even with a second to spare for a helper thread.
+        Settings::set(Settings::Key::refreshInterval, 0.5);
+        Settings::store().sync();
+        QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
+        env.insert(u"LD_DEBUG"_qs, u"libs"_qs);
+        const Run status = sulkbox({u"status"_qs}, 20000, env);
+        QCOMPARE(status.exitCode, 0);
+        QVERIFY(status.err.contains("libnvidia-ml.so.1"));
+
+        QProcess bar;
+        bar.setProcessEnvironment(env);
+        bar.start(QStringLiteral(SULKBOX_EXE), {u"bar"_qs});
+        QVERIFY(bar.waitForStarted());
+        QByteArray out;
+        QTRY_VERIFY_WITH_TIMEOUT((out += bar.readAllStandardOutput()).count('\n') >= 3, 10000);
+        bar.kill();
+        bar.waitForFinished();
+        const QByteArray err = bar.readAllStandardError();
+        QVERIFY(err.contains("find library=")); // the linker did report
+        QVERIFY2(!err.contains("libnvidia-ml"), err.right(400).constData());
+        TestSupport::clearSettings();
+    }
+
     void barFormatsForStatusBars()
     {
         Settings::set(Settings::Key::moodEnabled, false);

@@ -24,7 +24,7 @@ sizes=(16 22 24 32 48 64 128 256)
 expected=(bin/sulkbox share/applications/sulkbox.desktop share/metainfo/sulkbox.metainfo.xml
           share/man/man1/sulkbox.1.gz share/icons/hicolor/scalable/apps/sulkbox.svg)
 for s in "${sizes[@]}"; do expected+=("share/icons/hicolor/${s}x${s}/apps/sulkbox.png"); done
-((has_desktop)) && expected+=(libexec/sulkbox/sulkbox-desktop)
+((has_desktop)) && expected+=(libexec/sulkbox/sulkbox-desktop libexec/sulkbox/libsulkbox_quick.so)
 for f in "${expected[@]}"; do
     [[ -f "$prefix/$f" ]] || fail "not installed: $f"
 done

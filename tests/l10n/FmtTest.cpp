@@ -6,7 +6,10 @@
 #include <QLocale>
 #include <QTest>
 
+#include <charconv>
 #include <clocale>
+#include <cmath>
+#include <random>
 
 class FmtTest : public QObject {
     Q_OBJECT
@@ -59,6 +62,42 @@ private slots:
         QCOMPARE(Fmt::fixed(0.375, 2), u"0.38"_qs);
         QCOMPARE(Fmt::fixed(2.5, 0), u"2"_qs);
         QCOMPARE(Fmt::fixed(1.005, 2), u"1.00"_qs); // 1.005 is just below in binary
+    }
+
+    void everyFigureAsToCharsWritesIt()
+    {
+        // Fmt writes everyday figures without to_chars; the text must be the
+        // one to_chars (and so printf) gives, ties and signs included.
+        auto reference = [](double v, int decimals) {
+            char buf[400];
+            const auto res = std::to_chars(buf, buf + sizeof buf, v, std::chars_format::fixed, decimals);
+            return QString::fromLatin1(buf, res.ptr - buf);
+        };
+        QList<double> values{0.0, -0.0, 0.5, 1.5, 2.5, -2.5, 0.125, 0.375, 0.0625, 1.005, 0.045, 99.995,
+                             1e-7, -1e-7, 4.5e-201, -3e-300, 5e-324, 999.95, 1e15, 2251799813685247.5,
+                             1125899906842623.5, 562949953421311.75, 4503599627370495.5, 1e300};
+        std::mt19937_64 random(20260311);
+        for (int i = 0; i < 200000; ++i) {
+            // Any sign and magnitude from 1e-9 to 1e17, as often as not an
+            // odd number of halves (or quarters, eighths) of a decimal unit.
+            const double magnitude = std::pow(10.0, std::uniform_real_distribution<double>(-9, 17)(random));
+            double v = random() % 2 ? -magnitude : magnitude;
+            if (random() % 2) {
+                const int decimals = int(random() % 7);
+                const double unit = std::pow(10.0, -decimals);
+                v = (std::floor(v / unit) + double(random() % 8) / 8) * unit;
+            }
+            values.append(v);
+            values.append(std::nextafter(v, 0.0));
+        }
+        for (const double v : std::as_const(values)) {
+            for (int decimals = 0; decimals <= 8; ++decimals) {
+                const QString expected = reference(v, decimals);
+                if (Fmt::fixed(v, decimals) != expected)
+                    QFAIL(qPrintable(u"%1 with %2 decimals: %3, not %4"_qs.arg(v, 0, 'g', 17).arg(decimals)
+                                         .arg(Fmt::fixed(v, decimals), expected)));
+            }
+        }
     }
 
     void anyDecimalCountAsPrintfTakesIt()

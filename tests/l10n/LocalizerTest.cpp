@@ -3,7 +3,9 @@
 #include "settings/Settings.h"
 #include "l10n/Localizer.h"
 
+#include <QCoreApplication>
 #include <QRegularExpression>
+#include <QScopeGuard>
 #include <QSet>
 #include <QSignalSpy>
 #include <QTest>
@@ -42,12 +44,13 @@ class LocKeyTest : public QObject {
 private slots:
     void keysInOrderWithDistinctTexts()
     {
-        QCOMPARE(locKeyCount, 146);
+        QCOMPARE(locKeyCount, 148);
         QCOMPARE(keyName(LocKey::memory), QStringLiteral("memory"));
         QCOMPARE(int(LocKey::memory), 0);
         QCOMPARE(int(LocKey::tagline), 64);
         QCOMPARE(int(LocKey::holCheer), 126);
         QCOMPARE(int(LocKey::empty), 127);
+        QCOMPARE(int(LocKey::openPreferences), 147);
         QSet<QString> texts;
         for (LocKey key : allLocKeys()) {
             texts.insert(rawValue(key));
@@ -96,15 +99,16 @@ private slots:
                 // This runs on Linux desktops: no text may name the Mac or its parts.
                 QVERIFY2(!text->contains(macWords()), qPrintable(where + u": "_qs + *text));
                 // Chinese prose writes its ellipsis as a pair; a command that opens
-                // more ("Check for Updates…") keeps the single one of menus.
-                if ((lang == AppLanguage::zhHans || lang == AppLanguage::zhHant) && key != LocKey::checkForUpdates)
+                // more ("Check for Updates…", "Preferences…") keeps the single one of menus.
+                if ((lang == AppLanguage::zhHans || lang == AppLanguage::zhHant) && key != LocKey::checkForUpdates
+                    && key != LocKey::openPreferences)
                     QVERIFY2(!text->contains(QRegularExpression(u"(?<!\u2026)\u2026(?!\u2026)"_qs)),
                              qPrintable(where + u": "_qs + *text));
             }
             QVERIFY(!Localizer::tableText(key, AppLanguage::en));
             QVERIFY(!Localizer::tableText(key, AppLanguage::system));
         }
-        QCOMPARE(rows, 142);
+        QCOMPARE(rows, 144);
     }
 
     void fixedRowsAreVerbatim_data()
@@ -225,6 +229,43 @@ private slots:
         QFETCH(QString, tag);
         QFETCH(AppLanguage, lang);
         QCOMPARE(Localizer::languageForTag(tag), lang);
+    }
+
+    void systemLanguageFollowsALocaleChange()
+    {
+        Localizer &loc = Localizer::shared();
+        QCOMPARE(loc.language(), AppLanguage::system);
+        const AppLanguage before = loc.concrete();
+        QStringList preferred{u"ko-KR"_qs, u"en-US"_qs};
+        Localizer::setPreferredLanguagesSource([&preferred] { return preferred; });
+        auto restore = qScopeGuard([&loc] {
+            Localizer::setPreferredLanguagesSource({});
+            loc.systemLocaleChanged();
+        });
+        QCOMPARE(Localizer::systemLanguage(), AppLanguage::ko);
+
+        // Lookups keep the language resolved before, until the application
+        // hears of the change.
+        QSignalSpy spy(&loc, &Localizer::languageChanged);
+        QCOMPARE(loc.concrete(), before);
+        QEvent change(QEvent::LocaleChange);
+        QCoreApplication::sendEvent(QCoreApplication::instance(), &change);
+        QCOMPARE(loc.concrete(), AppLanguage::ko);
+        QCOMPARE(spy.count(), 1);
+        QCOMPARE(loc.t(LocKey::memory), Localizer::tableText(LocKey::memory, AppLanguage::ko).value());
+        // The same preference again announces nothing.
+        QCoreApplication::sendEvent(QCoreApplication::instance(), &change);
+        QCOMPARE(spy.count(), 1);
+
+        // A chosen language stays whatever the system prefers; going back
+        // to automatic asks the system again.
+        loc.setLanguage(AppLanguage::ja);
+        preferred = {u"zh-TW"_qs, u"zh-Hant-TW"_qs};
+        QCoreApplication::sendEvent(QCoreApplication::instance(), &change);
+        QCOMPARE(loc.concrete(), AppLanguage::ja);
+        loc.setLanguage(AppLanguage::system);
+        QCOMPARE(loc.concrete(), AppLanguage::zhHant);
+        QCOMPARE(loc.t(LocKey::memory), Localizer::tableText(LocKey::memory, AppLanguage::zhHant).value());
     }
 
     void onlyTheFirstPreferenceCounts()

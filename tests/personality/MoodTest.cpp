@@ -101,6 +101,10 @@ private slots:
             seen.insert(c.name());
         }
         QCOMPARE(seen.size(), 7);
+        // Colour names as CSS and the bars read them: two lowercase hex
+        // digits per channel, leading zeros kept.
+        QCOMPARE((Rgb{0x0a, 0xff, 0x80}.name()), QStringLiteral("#0aff80"));
+        QCOMPARE((Rgb{0, 0, 0}.name()), QStringLiteral("#000000"));
     }
 
     void catalogueFormatsArguments()

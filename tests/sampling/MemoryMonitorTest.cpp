@@ -110,6 +110,47 @@ private Q_SLOTS:
         QVERIFY(s.pressure >= 0 && s.pressure <= 1);
     }
 
+    void keysAreMatchedWholeInAnyOrder()
+    {
+        ScratchTree proc;
+        // Look-alikes of every length the reader knows (SwapCached is as
+        // long as SUnreclaim, Zswapped starts like Zswap), the wanted keys
+        // backwards, and a second MemTotal line that must not count.
+        QVERIFY(proc.write("meminfo", "SwapCached:      111 kB\n"
+                                      "Zswapped:        222 kB\n"
+                                      "Active(file):    333 kB\n"
+                                      "PageTables:        4 kB\n"
+                                      "KernelStack:       3 kB\n"
+                                      "SUnreclaim:        2 kB\n"
+                                      "SReclaimable:     30 kB\n"
+                                      "Zswap:             5 kB\n"
+                                      "SwapFree:        600 kB\n"
+                                      "SwapTotal:      1000 kB\n"
+                                      "Unevictable:       1 kB\n"
+                                      "Cached:          200 kB\n"
+                                      "Buffers:          10 kB\n"
+                                      "MemAvailable:   4000 kB\n"
+                                      "MemFree:        1000 kB\n"
+                                      "MemTotal:      10000 kB\n"
+                                      "MemTotal:      99999 kB\n"));
+        MemoryMonitor monitor(proc.asProc(proc.path()));
+        const MemorySample s = monitor.read();
+        QCOMPARE(s.total, 10000.0 * 1024);
+        QCOMPARE(s.used, 6000.0 * 1024);
+        QCOMPARE(s.cached, 240.0 * 1024);
+        QCOMPARE(s.wired, 10.0 * 1024);
+        QCOMPARE(s.compressed, 5.0 * 1024);
+        QCOMPARE(s.swapUsed, 400.0 * 1024);
+
+        // The next reading of a changed file is read afresh, not from where
+        // the last one stopped.
+        QVERIFY(proc.write("meminfo", "MemTotal: 8000 kB\nMemAvailable: 2000 kB\nCached: 1 kB\n"));
+        const MemorySample next = monitor.read();
+        QCOMPARE(next.used, 6000.0 * 1024);
+        QCOMPARE(next.cached, 1.0 * 1024);
+        QCOMPARE(next.swapTotal, 0.0);
+    }
+
     void missingSourcesGiveTheEmptyRecord()
     {
         ScratchTree proc;

@@ -713,5 +713,15 @@
         <source>The update server sent something that isn’t an update feed.</source>
         <translation>アップデートサーバーから届いたデータは、アップデート情報ではありませんでした。</translation>
     </message>
+    <message>
+        <extracomment>openPanel</extracomment>
+        <source>Open panel</source>
+        <translation>パネルを開く</translation>
+    </message>
+    <message>
+        <extracomment>openPreferences</extracomment>
+        <source>Preferences…</source>
+        <translation>設定…</translation>
+    </message>
 </context>
 </TS>

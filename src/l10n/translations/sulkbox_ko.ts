@@ -713,5 +713,15 @@
         <source>The update server sent something that isn’t an update feed.</source>
         <translation>업데이트 서버가 보낸 내용이 올바른 업데이트 정보가 아닙니다.</translation>
     </message>
+    <message>
+        <extracomment>openPanel</extracomment>
+        <source>Open panel</source>
+        <translation>패널 열기</translation>
+    </message>
+    <message>
+        <extracomment>openPreferences</extracomment>
+        <source>Preferences…</source>
+        <translation>환경설정…</translation>
+    </message>
 </context>
 </TS>

@@ -713,5 +713,15 @@
         <source>The update server sent something that isn’t an update feed.</source>
         <translation>ข้อมูลที่ได้จากเซิร์ฟเวอร์อัปเดตไม่ใช่ข้อมูลอัปเดต</translation>
     </message>
+    <message>
+        <extracomment>openPanel</extracomment>
+        <source>Open panel</source>
+        <translation>เปิดแผง</translation>
+    </message>
+    <message>
+        <extracomment>openPreferences</extracomment>
+        <source>Preferences…</source>
+        <translation>การตั้งค่า…</translation>
+    </message>
 </context>
 </TS>

@@ -713,5 +713,15 @@
         <source>The update server sent something that isn’t an update feed.</source>
         <translation>更新服务器发来的内容不是有效的更新信息。</translation>
     </message>
+    <message>
+        <extracomment>openPanel</extracomment>
+        <source>Open panel</source>
+        <translation>打开面板</translation>
+    </message>
+    <message>
+        <extracomment>openPreferences</extracomment>
+        <source>Preferences…</source>
+        <translation>偏好设置…</translation>
+    </message>
 </context>
 </TS>

@@ -713,5 +713,15 @@
         <source>The update server sent something that isn’t an update feed.</source>
         <translation>更新伺服器傳來的內容不是有效的更新資訊。</translation>
     </message>
+    <message>
+        <extracomment>openPanel</extracomment>
+        <source>Open panel</source>
+        <translation>打開面板</translation>
+    </message>
+    <message>
+        <extracomment>openPreferences</extracomment>
+        <source>Preferences…</source>
+        <translation>偏好設定…</translation>
+    </message>
 </context>
 </TS>

@@ -4,13 +4,11 @@
 // (`fmt.temp(c, appSettings.useFahrenheit)`), so a binding follows the
 // setting at once.
 
+#include "ui/common/LoadColor.h"
+
 #include <QColor>
 #include <QObject>
 #include <QStringList>
-
-// The green-to-amber-to-red colour of every load figure; `f` is clamped to 0..1
-// (not-a-number counts as 0).
-QColor loadColor(double f);
 
 class QmlFormat : public QObject {
     Q_OBJECT

@@ -19,7 +19,7 @@ UpdateWindow::UpdateWindow(Updater &updater, QObject *parent)
     , m_updater(updater)
 {
     connect(&updater, &Updater::checkStarted, this, &UpdateWindow::onStarted);
-    connect(&updater, &Updater::finished, this, &UpdateWindow::onFinished);
+    connect(&updater, &Updater::finished, this, &UpdateWindow::report);
 }
 
 UpdateWindow::~UpdateWindow()
@@ -71,7 +71,7 @@ void UpdateWindow::onStarted(bool userInitiated)
     show();
 }
 
-void UpdateWindow::onFinished(const Updater::Result &result, bool userInitiated)
+void UpdateWindow::report(const Updater::Result &result, bool userInitiated)
 {
     // Automatic checks speak only of a newer version.
     if (!userInitiated && result.outcome != Updater::Outcome::available)
@@ -114,4 +114,10 @@ void UpdateWindow::close()
 {
     if (m_window)
         m_window->close();
+}
+
+void UpdateWindow::discardWindow()
+{
+    delete m_window;
+    delete m_context;
 }

@@ -59,12 +59,18 @@ public:
     Q_INVOKABLE void openReleaseNotes();
     Q_INVOKABLE void close();
 
+    // Shows a check's result (an automatic one only when a newer version
+    // exists). Connected to the updater; also called by the desktop process
+    // with a result that came before this window existed.
+    void report(const Updater::Result &result, bool userInitiated);
+    // Drops the window (before the QML engine it came from goes away).
+    void discardWindow();
+
 signals:
     void changed();
 
 private:
     void onStarted(bool userInitiated);
-    void onFinished(const Updater::Result &result, bool userInitiated);
     void show();
 
     Updater &m_updater;

@@ -125,7 +125,7 @@ int main(int argc, char **argv)
                 if (state == u"failed")
                     AppSettings::shared().setUpdateFeedURL(server.url(QStringLiteral("/gone.xml")).toString());
                 updates.checkNow();
-                QTest::qWaitFor([&] { return updates.state() == state; }, 5000);
+                ok &= QTest::qWaitFor([&] { return updates.state() == state; }, 5000);
                 ok &= save(updates.window(), QStringLiteral("%1/prefs-update-%2-%3-%4.png").arg(out, state, name, scheme));
                 updates.close();
             }

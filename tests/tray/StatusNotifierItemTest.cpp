@@ -1,0 +1,434 @@
+// The tray item on a real session bus, seen from a test watcher the way a
+// tray host sees it: registration, the label, the icon, the title and
+// tooltip, and the menu.
+
+#include "common/FakeSamplers.h"
+#include "common/FakeWatcher.h"
+#include "common/TestSupport.h"
+
+#include "l10n/Localizer.h"
+#include "model/SystemMonitor.h"
+#include "settings/AppSettings.h"
+#include "ui/MenuBarLabel.h"
+#include "ui/tray/StatusNotifierItem.h"
+
+#include <QDBusArgument>
+#include <QDBusMetaType>
+#include <QSignalSpy>
+#include <QTest>
+
+#include <memory>
+
+namespace {
+
+const QString itemPath = QStringLiteral("/StatusNotifierItem");
+const QString itemInterface = QStringLiteral("org.kde.StatusNotifierItem");
+const QString menuInterface = QStringLiteral("com.canonical.dbusmenu");
+
+// The model with fixed readings (CPU 7.4 %, memory 42.6 %) and the item.
+struct Rig {
+    ManualScheduler scheduler;
+    std::shared_ptr<FakeSamplers> samplers = std::make_shared<FakeSamplers>();
+    std::unique_ptr<SystemMonitor> monitor;
+    std::unique_ptr<StatusNotifierItem> item;
+
+    Rig()
+    {
+        samplers->cpu.total = 0.074;
+        samplers->memory.pressure = 0.426;
+        monitor = std::make_unique<SystemMonitor>(samplers, scheduler);
+        item = std::make_unique<StatusNotifierItem>(*monitor, Localizer::shared(), AppSettings::shared(),
+                                                    QDBusConnection::sessionBus());
+    }
+    QString service() const { return item->serviceName(); }
+    // How a watcher lists the item: its connection and object path.
+    QString registration() const
+    {
+        return QDBusConnection::sessionBus().baseService() + itemPath;
+    }
+};
+
+template <typename T>
+T fromBus(const QVariant &v)
+{
+    return qdbus_cast<T>(v.value<QDBusArgument>());
+}
+
+QString label(FakeWatcher &w, const Rig &rig)
+{
+    return w.property(rig.service(), itemPath, itemInterface, QStringLiteral("XAyatanaLabel")).toString();
+}
+
+QList<SniPixmap> pixmaps(FakeWatcher &w, const Rig &rig)
+{
+    return fromBus<QList<SniPixmap>>(w.property(rig.service(), itemPath, itemInterface, QStringLiteral("IconPixmap")));
+}
+
+// The pixel at (x, y) as the bus carries it: A, R, G, B bytes.
+std::array<int, 4> argbAt(const SniPixmap &p, int x, int y)
+{
+    const auto *d = reinterpret_cast<const uchar *>(p.argb.constData()) + (y * p.width + x) * 4;
+    return {d[0], d[1], d[2], d[3]};
+}
+
+// How many pixels are opaque, and how many of those are strongly coloured
+// in the given channel (1 red, 2 green, 3 blue) against the other two.
+std::pair<int, int> opaqueAndTinted(const SniPixmap &p, int channel)
+{
+    int opaque = 0, tinted = 0;
+    for (int y = 0; y < p.height; ++y)
+        for (int x = 0; x < p.width; ++x) {
+            const auto px = argbAt(p, x, y);
+            if (px[0] < 250)
+                continue;
+            ++opaque;
+            bool dominant = true;
+            for (int c = 1; c <= 3; ++c)
+                if (c != channel && px[channel] < px[c] + 40)
+                    dominant = false;
+            tinted += dominant;
+        }
+    return {opaque, tinted};
+}
+
+} // namespace
+
+class TrayItemTest : public QObject {
+    Q_OBJECT
+
+private slots:
+    void init()
+    {
+        TestSupport::clearSettings();
+        // No timer ticks of their own during a test: the test ticks.
+        Settings::set(Settings::Key::refreshInterval, 10.0);
+        Localizer::shared().reload();
+    }
+    void cleanup()
+    {
+        TestSupport::clearSettings();
+        Localizer::shared().reload();
+    }
+
+    void registersWithTheWatcherAndAgainWhenItReturns()
+    {
+        Rig rig;
+        QVERIFY(rig.service().startsWith(QStringLiteral("org.kde.StatusNotifierItem-")));
+        QVERIFY(rig.service().endsWith(QStringLiteral("-1")));
+
+        // Started before any watcher: it waits for one.
+        QVERIFY(rig.item->start());
+        QVERIFY(!rig.item->watcherPresent());
+        QVERIFY(!rig.item->hostPresent());
+
+        auto first = std::make_unique<FakeWatcher>();
+        QVERIFY(first->owned());
+        QTRY_COMPARE(first->registrations, QStringList{rig.registration()});
+        QTRY_VERIFY(rig.item->hostPresent());
+        QCOMPARE(first->property(rig.service(), itemPath, itemInterface, QStringLiteral("Id")).toString(),
+                 QStringLiteral("sulkbox"));
+        QCOMPARE(first->property(rig.service(), itemPath, itemInterface, QStringLiteral("Status")).toString(),
+                 QStringLiteral("Active"));
+        QCOMPARE(first->property(rig.service(), itemPath, itemInterface, QStringLiteral("ItemIsMenu")).toBool(), false);
+        QCOMPARE(first->property(rig.service(), itemPath, itemInterface, QStringLiteral("Menu"))
+                     .value<QDBusObjectPath>()
+                     .path(),
+                 QStringLiteral("/MenuBar"));
+
+        // The shell restarts: the watcher goes away and a new one comes.
+        first.reset();
+        QTRY_VERIFY(!rig.item->watcherPresent());
+        QVERIFY(!rig.item->hostPresent());
+        FakeWatcher second;
+        QVERIFY(second.owned());
+        QTRY_COMPARE(second.registrations, QStringList{rig.registration()});
+        QTRY_VERIFY(rig.item->hostPresent());
+    }
+
+    void watcherWithoutHostIsNoHost()
+    {
+        Rig rig;
+        FakeWatcher watcher(false);
+        QVERIFY(rig.item->start());
+        QTRY_COMPARE(watcher.registrations.size(), 1);
+        QTest::qWait(50);
+        QVERIFY(rig.item->watcherPresent());
+        QVERIFY(!rig.item->hostPresent());
+    }
+
+    void labelFollowsMoodReactionModeAndLanguage()
+    {
+        Rig rig;
+        FakeWatcher w;
+        QVERIFY(rig.item->start());
+        QTRY_COMPARE(w.registrations.size(), 1);
+        w.follow(rig.service());
+        Localizer &loc = Localizer::shared();
+
+        QCOMPARE(label(w, rig), MenuBarLabel::text(*rig.monitor, loc, true));
+
+        rig.monitor->offerMood(Moods::allChill());
+        QTRY_COMPARE(w.labels.size(), 1);
+        const QString chill = Moods::allChill().emoji() + u' ' + loc.t(LocKey::allChill);
+        QCOMPARE(w.labels.last().first(), chill);
+        QCOMPARE(label(w, rig), chill);
+
+        // A reaction stands over the mood, emoji and phrase together.
+        rig.monitor->setReaction(Moods::stopPoking());
+        QTRY_COMPARE(w.labels.size(), 2);
+        const QString poked = Moods::stopPoking().emoji() + u' ' + loc.t(LocKey::stopPoking);
+        QCOMPARE(label(w, rig), poked);
+
+        // Numbers mode while the reaction shows: straight to the loads.
+        AppSettings::shared().setMoodEnabled(false);
+        QTRY_COMPARE(w.labels.size(), 3);
+        QCOMPARE(w.labels.last(), (QStringList{u"7%  43%"_qs, u"100%  100%"_qs}));
+        QCOMPARE(label(w, rig), u"7%  43%"_qs);
+
+        // A tick with the same loads changes nothing, so nothing is sent.
+        rig.monitor->tick();
+        QTest::qWait(100);
+        QCOMPARE(w.labels.size(), 3);
+        rig.samplers->cpu.total = 0.5;
+        rig.monitor->tick();
+        QTRY_COMPARE(w.labels.size(), 4);
+        QCOMPARE(w.labels.last().first(), u"50%  43%"_qs);
+
+        // Back to the mood: the reaction is cleared by now, the mood shows.
+        rig.monitor->setReaction(std::nullopt);
+        QTest::qWait(100);
+        QCOMPARE(w.labels.size(), 4); // the numbers did not change
+        rig.monitor->offerMood(Moods::allChill());
+        AppSettings::shared().setMoodEnabled(true);
+        QTRY_COMPARE(w.labels.size(), 5);
+        QCOMPARE(label(w, rig), MenuBarLabel::text(*rig.monitor, loc, true));
+        QCOMPARE(label(w, rig), chill);
+
+        // The language changes the phrase at once.
+        loc.setLanguage(AppLanguage::ja);
+        QTRY_COMPARE(w.labels.size(), 6);
+        QCOMPARE(label(w, rig), Moods::allChill().emoji() + u' ' + loc.t(LocKey::allChill));
+        QVERIFY(label(w, rig) != chill);
+    }
+
+    void iconShowsTheEmojiOrTheLoadsUnlessTheHostDrawsLabels()
+    {
+        Rig rig;
+        FakeWatcher w;
+        QVERIFY(rig.item->start());
+        QTRY_COMPARE(w.registrations.size(), 1);
+        w.follow(rig.service());
+        QVERIFY(!rig.item->hostDrawsLabels()); // the test watcher is no GNOME Shell
+
+        // Mood mode: the shown mood's emoji, in colour, at each size.
+        rig.monitor->offerMood(Moods::soHot(95)); // 🥵: a red face
+        QTRY_COMPARE(w.newIcons, 1);
+        QList<SniPixmap> icon = pixmaps(w, rig);
+        QCOMPARE(icon.size(), 3);
+        for (const SniPixmap &p : icon) {
+            QCOMPARE(p.width, p.height);
+            QCOMPARE(p.argb.size(), qsizetype(p.width) * p.height * 4);
+            const auto [opaque, red] = opaqueAndTinted(p, 1);
+            QVERIFY2(opaque > p.width * p.height / 4, qPrintable(QString::number(opaque)));
+            QVERIFY2(red > opaque / 3, qPrintable(QStringLiteral("%1 of %2").arg(red).arg(opaque)));
+        }
+        // The same emoji again (a new reason) is no new icon.
+        rig.monitor->offerMood(Moods::soHot(97));
+        QTRY_COMPARE(w.newTitles, 2);
+        QCOMPARE(w.newIcons, 1);
+
+        // Numbers mode: the two loads, drawn in their load colour (green at
+        // 7 %): bytes on the bus are A, R, G, B.
+        AppSettings::shared().setMoodEnabled(false);
+        QTRY_COMPARE(w.newIcons, 2);
+        icon = pixmaps(w, rig);
+        QCOMPARE(icon.size(), 3);
+        const auto [opaque, green] = opaqueAndTinted(icon.last(), 2);
+        QVERIFY(opaque > 20);
+        QVERIFY2(green > 10, qPrintable(QStringLiteral("%1 of %2").arg(green).arg(opaque)));
+        rig.monitor->tick();
+        QTest::qWait(100);
+        QCOMPARE(w.newIcons, 2);
+        rig.samplers->memory.pressure = 0.9;
+        rig.monitor->tick();
+        QTRY_COMPARE(w.newIcons, 3);
+
+        // A host that draws the label gets a blank icon, which then stays
+        // put while the loads change.
+        rig.item->setHostDrawsLabels(true);
+        QTRY_COMPARE(w.newIcons, 4);
+        icon = pixmaps(w, rig);
+        QCOMPARE(icon.size(), 1);
+        QCOMPARE(icon.first().argb, QByteArray(icon.first().width * icon.first().height * 4, '\0'));
+        rig.samplers->memory.pressure = 0.3;
+        rig.monitor->tick();
+        QTRY_COMPARE(w.labels.size(), 4);
+        QTest::qWait(100);
+        QCOMPARE(w.newIcons, 4);
+
+        QVERIFY(StatusNotifierItem::drawsLabels(u"gnome-shell"_qs));
+        QVERIFY(!StatusNotifierItem::drawsLabels(u"plasmashell"_qs));
+        QVERIFY(!StatusNotifierItem::drawsLabels(QString()));
+    }
+
+    void titleAndTooltipCarryPhraseReasonAndLoads()
+    {
+        Rig rig;
+        FakeWatcher w;
+        QVERIFY(rig.item->start());
+        QTRY_COMPARE(w.registrations.size(), 1);
+        w.follow(rig.service());
+        rig.item->setLoadTextIntervalMs(60000);
+        const Localizer &loc = Localizer::shared();
+
+        // The loads alone wait for their interval (the mood stays: the
+        // machine has just woken up)...
+        const QString before = w.property(rig.service(), itemPath, itemInterface, u"Title"_qs).toString();
+        QVERIFY2(before.contains(u"CPU 7%"_qs), qPrintable(before));
+        rig.samplers->cpu.total = 0.31;
+        rig.monitor->tick();
+        QTest::qWait(100);
+        QCOMPARE(w.newTitles, 0);
+        QCOMPARE(w.property(rig.service(), itemPath, itemInterface, u"Title"_qs).toString(), before);
+
+        // ...while a new mood goes at once, with the loads of the moment.
+        rig.monitor->offerMood(Moods::soHot(95));
+        // Two signals, two bus messages: the tooltip's may come a moment later.
+        QTRY_COMPARE(w.newTitles, 1);
+        QTRY_COMPARE(w.newToolTips, 1);
+        const QString phrase = loc.t(LocKey::soHot);
+        const QString reason = MenuBarLabel::reason(Moods::soHot(95), loc);
+        const QString title = w.property(rig.service(), itemPath, itemInterface, u"Title"_qs).toString();
+        for (const QString &part : {phrase, reason, u"CPU 31%"_qs, u"Memory 43%"_qs})
+            QVERIFY2(title.contains(part), qPrintable(title + u" lacks "_qs + part));
+        const auto tip = fromBus<SniToolTip>(w.property(rig.service(), itemPath, itemInterface, u"ToolTip"_qs));
+        QCOMPARE(tip.title, Moods::soHot(95).emoji() + u' ' + phrase);
+        QVERIFY(tip.text.contains(reason.toHtmlEscaped()));
+        QVERIFY(tip.text.contains(u"Memory 43%"_qs));
+
+        rig.monitor->offerMood(Moods::allChill());
+        QTRY_COMPARE(w.newTitles, 2);
+        rig.item->setLoadTextIntervalMs(0);
+        rig.samplers->cpu.total = 0.2;
+        rig.monitor->tick();
+        QTRY_COMPARE(w.newTitles, 3);
+        QTRY_COMPARE(w.newToolTips, 3);
+        rig.monitor->tick();
+        QTest::qWait(100);
+        QCOMPARE(w.newTitles, 3);
+    }
+};
+
+class TrayMenuTest : public QObject {
+    Q_OBJECT
+
+private:
+    MenuLayoutNode layout(FakeWatcher &w, const Rig &rig, uint *revision = nullptr)
+    {
+        const QDBusMessage reply = w.call(rig.service(), u"/MenuBar"_qs, menuInterface, u"GetLayout"_qs,
+                                          {0, -1, QStringList()});
+        if (reply.type() != QDBusMessage::ReplyMessage || reply.arguments().size() != 2)
+            return {};
+        if (revision)
+            *revision = reply.arguments().at(0).toUInt();
+        return qdbus_cast<MenuLayoutNode>(reply.arguments().at(1).value<QDBusArgument>());
+    }
+
+    static QStringList labels(const MenuLayoutNode &root)
+    {
+        QStringList out;
+        for (const MenuLayoutNode &child : root.children)
+            out.append(child.properties.value(u"type"_qs).toString() == u"separator"
+                           ? u"--"_qs
+                           : child.properties.value(u"label"_qs).toString());
+        return out;
+    }
+
+private slots:
+    void init()
+    {
+        TestSupport::clearSettings();
+        Settings::set(Settings::Key::refreshInterval, 10.0);
+        Localizer::shared().reload();
+    }
+    void cleanup()
+    {
+        TestSupport::clearSettings();
+        Localizer::shared().reload();
+    }
+
+    void layoutStartsWithOpenPanelAndFollowsTheLanguage()
+    {
+        Rig rig;
+        FakeWatcher w;
+        QVERIFY(rig.item->start());
+        QTRY_COMPARE(w.registrations.size(), 1);
+        w.follow(rig.service());
+
+        uint before = 0;
+        const MenuLayoutNode root = layout(w, rig, &before);
+        QCOMPARE(root.id, 0);
+        QCOMPARE(root.properties.value(u"children-display"_qs).toString(), u"submenu"_qs);
+        QCOMPARE(labels(root), (QStringList{u"Open panel"_qs, u"Preferences…"_qs, u"--"_qs, u"Quit"_qs}));
+        for (const MenuLayoutNode &child : root.children)
+            QVERIFY(child.children.isEmpty());
+
+        Localizer::shared().setLanguage(AppLanguage::zhHans);
+        QTRY_COMPARE(w.layoutRevisions.size(), 1);
+        QVERIFY(w.layoutRevisions.first() > before);
+        uint after = 0;
+        QCOMPARE(labels(layout(w, rig, &after)), (QStringList{u"打开面板"_qs, u"偏好设置…"_qs, u"--"_qs, u"退出"_qs}));
+        QCOMPARE(after, w.layoutRevisions.first());
+
+        // Only the root's own node when no depth is asked for.
+        const QDBusMessage shallow = w.call(rig.service(), u"/MenuBar"_qs, menuInterface, u"GetLayout"_qs,
+                                            {0, 0, QStringList{u"label"_qs}});
+        QCOMPARE(qdbus_cast<MenuLayoutNode>(shallow.arguments().at(1).value<QDBusArgument>()).children.size(), 0);
+    }
+
+    void clicksComeBackAsActionsAndUnknownItemsAreErrors()
+    {
+        Rig rig;
+        FakeWatcher w;
+        QVERIFY(rig.item->start());
+        QTRY_COMPARE(w.registrations.size(), 1);
+        QSignalSpy triggered(&rig.item->menu(), &DBusMenu::triggered);
+
+        const QVariant noData = QVariant::fromValue(QDBusVariant(QString()));
+        QDBusMessage reply = w.call(rig.service(), u"/MenuBar"_qs, menuInterface, u"Event"_qs,
+                                    {1, u"clicked"_qs, noData, 0u});
+        QCOMPARE(reply.type(), QDBusMessage::ReplyMessage);
+        QCOMPARE(triggered.size(), 1);
+        QCOMPARE(triggered.at(0).at(0).value<DBusMenu::Action>(), DBusMenu::Action::openPanel);
+
+        // Hover and open events are not choices; the separator is no choice.
+        w.call(rig.service(), u"/MenuBar"_qs, menuInterface, u"Event"_qs, {4, u"hovered"_qs, noData, 0u});
+        w.call(rig.service(), u"/MenuBar"_qs, menuInterface, u"Event"_qs, {3, u"clicked"_qs, noData, 0u});
+        QCOMPARE(triggered.size(), 1);
+        w.call(rig.service(), u"/MenuBar"_qs, menuInterface, u"Event"_qs, {4, u"clicked"_qs, noData, 0u});
+        QCOMPARE(triggered.size(), 2);
+        QCOMPARE(triggered.at(1).at(0).value<DBusMenu::Action>(), DBusMenu::Action::quit);
+
+        reply = w.call(rig.service(), u"/MenuBar"_qs, menuInterface, u"Event"_qs, {42, u"clicked"_qs, noData, 0u});
+        QCOMPARE(reply.type(), QDBusMessage::ErrorMessage);
+        reply = w.call(rig.service(), u"/MenuBar"_qs, menuInterface, u"GetProperty"_qs, {42, u"label"_qs});
+        QCOMPARE(reply.type(), QDBusMessage::ErrorMessage);
+        reply = w.call(rig.service(), u"/MenuBar"_qs, menuInterface, u"GetProperty"_qs, {2, u"label"_qs});
+        QCOMPARE(reply.arguments().first().value<QDBusVariant>().variant().toString(), u"Preferences…"_qs);
+        reply = w.call(rig.service(), u"/MenuBar"_qs, menuInterface, u"GetLayout"_qs, {42, -1, QStringList()});
+        QCOMPARE(reply.type(), QDBusMessage::ErrorMessage);
+
+        // A host that sends events in a group hears which ids were unknown.
+        QDBusMessage group = QDBusMessage::createMethodCall(rig.service(), u"/MenuBar"_qs, menuInterface,
+                                                            u"EventGroup"_qs);
+        group << QVariant::fromValue(QList<MenuEvent>{{2, u"clicked"_qs, QDBusVariant(0), 0}, {9, u"clicked"_qs, QDBusVariant(0), 0}});
+        reply = w.bus().call(group, QDBus::BlockWithGui, 5000);
+        QCOMPARE(qdbus_cast<QList<int>>(reply.arguments().first().value<QDBusArgument>()), QList<int>{9});
+        QCOMPARE(triggered.size(), 3);
+        QCOMPARE(triggered.at(2).at(0).value<DBusMenu::Action>(), DBusMenu::Action::preferences);
+    }
+};
+
+SULK_TEST(TrayItemTest)
+SULK_TEST(TrayMenuTest)
+#include "StatusNotifierItemTest.moc"
