@@ -15,6 +15,8 @@ struct Section {
     // The operation measured; returns an extra figure to print (or empty).
     std::function<QString()> run;
     int iterations = 1000;
+    // Long runs (the soak) run only when the filter names them.
+    bool onlyWhenNamed = false;
 };
 
 void add(Section section);

@@ -1,5 +1,6 @@
 // sulkbox_bench [filter] [--iterations N]: prints, per section, the median
-// thread CPU time per call and the spread.
+// thread CPU time per call and the spread. `sulkbox_bench soak` runs the
+// long memory soak, which a plain run leaves out.
 
 #include "Bench.h"
 
@@ -50,6 +51,8 @@ int main(int argc, char **argv)
     std::printf("%-34s %12s %12s %12s %8s  %s\n", "section", "median", "p10", "p90", "iters", "note");
     for (const Bench::Section &s : sections()) {
         if (!filter.isEmpty() && !s.name.contains(filter))
+            continue;
+        if (s.onlyWhenNamed && filter.isEmpty())
             continue;
         if (s.setup)
             s.setup();

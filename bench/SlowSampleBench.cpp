@@ -9,7 +9,6 @@
 #include "sampling/SMC.h"
 #include "sampling/SensorMonitor.h"
 
-#include <QFileInfo>
 
 #include <memory>
 
@@ -30,7 +29,7 @@ struct SlowReaders {
 
 SlowReaders &readers()
 {
-    static const QString tree = QFileInfo(QStringLiteral(__FILE__)).absolutePath() + QStringLiteral("/../tests/fixtures/laptop");
+    static const QString tree = QStringLiteral(SULK_FIXTURES "/laptop");
     static SlowReaders instance(SystemRoots::underPrefix(tree));
     return instance;
 }

@@ -3,8 +3,22 @@
 # any are missing. Uses sudo when not run as root.
 #   scripts/deps.sh          build and run
 #   scripts/deps.sh --test   also what the tests need
+#   scripts/deps.sh --fuzz   also clang and libFuzzer for fuzz/
 #   scripts/deps.sh --bench  also what the benchmark scripts in bench/ run
+# (flags combine)
 set -euo pipefail
+
+test=
+fuzz=
+bench=
+for arg in "$@"; do
+    case $arg in
+    --test) test=1 ;;
+    --fuzz) fuzz=1 ;;
+    --bench) bench=1 ;;
+    *) echo "usage: $0 [--test] [--fuzz] [--bench]" >&2; exit 2 ;;
+    esac
+done
 
 packages=(
     cmake g++ make pkg-config ccache
@@ -16,7 +30,7 @@ packages=(
     fonts-noto-color-emoji fonts-noto-cjk fonts-noto-core
     libqt6svg6 librsvg2-bin dpkg-dev
 )
-if [[ "${1:-}" == "--test" ]]; then
+if [[ -n $test ]]; then
     packages+=(locales xvfb xauth procps desktop-file-utils appstream man-db)
     # A private session bus for the tray and desktop tests; real tray hosts
     # for the end-to-end tests: GNOME Shell with the AppIndicator extension
@@ -25,9 +39,13 @@ if [[ "${1:-}" == "--test" ]]; then
         gnome-shell gnome-shell-extension-appindicator dconf-service dconf-gsettings-backend
         xfce4-panel xfconf)
 fi
-if [[ "${1:-}" == "--bench" ]]; then
+if [[ -n $bench ]]; then
     # callgrind, and i3status as the baseline the bar is measured against.
     packages+=(valgrind i3status bc time procps)
+fi
+if [[ -n $fuzz ]]; then
+    # llvm brings llvm-symbolizer, for readable reports.
+    packages+=(clang libclang-rt-dev llvm)
 fi
 
 missing=()
@@ -48,7 +66,7 @@ if ((${#missing[@]})); then
 fi
 
 # The number-formatting tests run once under a German locale.
-if [[ "${1:-}" == "--test" ]] && ! locale -a 2>/dev/null | grep -qi '^de_DE\.utf-\?8$'; then
+if [[ -n $test ]] && ! locale -a 2>/dev/null | grep -qi '^de_DE\.utf-\?8$'; then
     echo "Generating the de_DE.UTF-8 locale"
     as_root sed -i 's/^# *de_DE.UTF-8 UTF-8/de_DE.UTF-8 UTF-8/' /etc/locale.gen
     grep -q '^de_DE.UTF-8 UTF-8' /etc/locale.gen || echo 'de_DE.UTF-8 UTF-8' | as_root tee -a /etc/locale.gen >/dev/null

@@ -14,6 +14,7 @@
 
 #include <QCommandLineParser>
 #include <QCoreApplication>
+#include <QElapsedTimer>
 #include <QEventLoop>
 #include <QFileInfo>
 #include <QJsonDocument>
@@ -61,25 +62,49 @@ int usageError(const QString &message)
     return 2;
 }
 
-void waitMs(int ms)
-{
-    QEventLoop loop;
-    QTimer::singleShot(ms, &loop, &QEventLoop::quit);
-    loop.exec();
-}
+// The clock of a one-shot run, which has no later: delayed actions (the
+// panel's power reading a second in, expiring reactions) never run, so
+// nothing samples behind the measurement's back.
+class OneShotScheduler final : public Scheduler {
+public:
+    QDateTime now() const override { return QDateTime::currentDateTimeUtc(); }
+    void after(int, QObject *, std::function<void()>) override {}
+};
 
 // --- status -----------------------------------------------------------------
 
+} // namespace
+
+std::unique_ptr<SystemMonitor> measure(std::shared_ptr<Samplers> samplers)
+{
+    static OneShotScheduler oneShot;
+    auto monitor = std::make_unique<SystemMonitor>(std::move(samplers), oneShot);
+    // The model's own timer would sample somewhere near the end of the
+    // interval (a coarse timer fires up to 5 % early) and leave a sliver of
+    // it as the measured interval. Here there is one baseline and one
+    // sample, a whole interval apart, and nothing in between.
+    monitor->stop();
+    const qint64 interval = std::lround(std::min(SystemMonitor::intervalFromSetting(), 2.0) * 1000);
+    QElapsedTimer sinceBaseline;
+    sinceBaseline.start();
+    // As an open panel: disk, GPU, power and the process list too. Its
+    // first fast sample is the baseline of every rate.
+    monitor->setPanelVisible(true);
+    QEventLoop loop;
+    QTimer::singleShot(std::max<qint64>(interval - sinceBaseline.elapsed(), 0), Qt::PreciseTimer, &loop,
+                       &QEventLoop::quit);
+    loop.exec();
+    monitor->sampleFast();
+    monitor->samplePower();
+    return monitor;
+}
+
+namespace {
+
 int runStatus(const SystemRoots &roots, bool json)
 {
-    auto samplers = std::make_shared<LinuxSamplers>(roots);
-    SystemMonitor monitor(samplers);
-    // As an open panel: disk, GPU, power and the process list too.
-    monitor.setPanelVisible(true);
-    // A second fast sample an interval later, so that rates are real.
-    const int interval = int(std::min(SystemMonitor::intervalFromSetting(), 2.0) * 1000);
-    waitMs(interval);
-    monitor.sampleFast();
+    const std::unique_ptr<SystemMonitor> measured = measure(std::make_shared<LinuxSamplers>(roots));
+    SystemMonitor &monitor = *measured;
     if (roots.live && monitor.processes().isEmpty()) {
         QEventLoop loop;
         QObject::connect(&monitor, &SystemMonitor::processesChanged, &loop, &QEventLoop::quit);

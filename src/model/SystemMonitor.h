@@ -64,9 +64,14 @@ public:
     static double intervalFromSetting();
 
     void start();
+    // Stops the timer: no tick comes until start(). A one-shot reading
+    // (`sulkbox status`) takes its samples itself.
+    void stop() { m_timer.stop(); }
     void tick();
     void sampleFast();
     void sampleSlow();
+    // Package power averaged since the previous reading of it.
+    void samplePower() { applyPower(m_samplers->readPower()); }
     void setPanelVisible(bool visible);
     void updateMood();
 

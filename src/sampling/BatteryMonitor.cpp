@@ -1,5 +1,6 @@
 #include "sampling/BatteryMonitor.h"
 
+#include "sampling/Plausible.h"
 #include "sampling/SysFs.h"
 
 using namespace Qt::StringLiterals;
@@ -7,6 +8,17 @@ using namespace Qt::StringLiterals;
 #include <cmath>
 
 namespace {
+
+// The largest figures a battery of a portable machine (or a UPS reporting
+// through the same class) can give, in the units of the files.
+constexpr double maxEnergy = 1e10;       // µWh: 10 kWh
+constexpr double maxCharge = 1e9;        // µAh: 1000 Ah
+constexpr double maxPower = 1e10;        // µW: 10 kW
+constexpr double maxCurrent = 1e9;       // µA: 1000 A
+constexpr double maxVoltage = 1e8;       // µV: 100 V
+constexpr double maxPercent = 150;       // capacity, %; some gauges overshoot 100
+constexpr double maxCycles = 100000;     // cells wear out after a few thousand
+constexpr double maxTenthsCelsius = 1e4; // before the temperature's own range
 
 // Minutes for `amount` at `rate` (µWh at µW, or µAh at µA); -1 when the rate
 // gives no useful estimate.
@@ -27,18 +39,25 @@ BatteryMonitor::BatteryMonitor(SystemRoots roots)
 
 void BatteryMonitor::readBattery(const QString &dir, BatterySample &s, QString &status) const
 {
-    const auto value = [&dir](QLatin1StringView name) -> std::optional<double> {
+    // A figure no battery could report (a damaged snapshot, a driver's
+    // all-ones "unknown") counts as missing. Rates may carry a sign.
+    const auto value = [&dir](QLatin1StringView name, double limit, bool signedRate = false) -> std::optional<double> {
         const std::optional<qint64> v = SysFs::readLong(dir + u'/' + name);
-        return v ? std::optional<double>(double(*v)) : std::nullopt;
+        if (!v)
+            return std::nullopt;
+        const double d = double(*v);
+        if (std::abs(d) > limit || (d < 0 && !signedRate))
+            return std::nullopt;
+        return d;
     };
     status = SysFs::readLine(dir + "/status"_L1).value_or(QString());
 
-    const auto energyNow = value("energy_now"_L1);
-    const auto energyFull = value("energy_full"_L1);
-    const auto energyDesign = value("energy_full_design"_L1);
-    const auto chargeNow = value("charge_now"_L1);
-    const auto chargeFull = value("charge_full"_L1);
-    const auto chargeDesign = value("charge_full_design"_L1);
+    const auto energyNow = value("energy_now"_L1, maxEnergy);
+    const auto energyFull = value("energy_full"_L1, maxEnergy);
+    const auto energyDesign = value("energy_full_design"_L1, maxEnergy);
+    const auto chargeNow = value("charge_now"_L1, maxCharge);
+    const auto chargeFull = value("charge_full"_L1, maxCharge);
+    const auto chargeDesign = value("charge_full_design"_L1, maxCharge);
 
     s = BatterySample{};
     s.present = true;
@@ -46,7 +65,7 @@ void BatteryMonitor::readBattery(const QString &dir, BatterySample &s, QString &
         s.charge = *energyNow / *energyFull;
     else if (chargeNow && chargeFull && *chargeFull > 0)
         s.charge = *chargeNow / *chargeFull;
-    else if (const auto capacity = value("capacity"_L1))
+    else if (const auto capacity = value("capacity"_L1, maxPercent))
         s.charge = *capacity / 100.0;
 
     s.isCharging = status == "Charging"_L1;
@@ -55,14 +74,14 @@ void BatteryMonitor::readBattery(const QString &dir, BatterySample &s, QString &
     // with current. Some drivers sign the rate by direction.
     std::optional<double> now, full, rate;
     if (energyNow && energyFull) {
-        if (const auto power = value("power_now"_L1)) {
+        if (const auto power = value("power_now"_L1, maxPower, true)) {
             now = energyNow;
             full = energyFull;
             rate = std::abs(*power);
         }
     }
     if (!rate && chargeNow && chargeFull) {
-        if (const auto current = value("current_now"_L1)) {
+        if (const auto current = value("current_now"_L1, maxCurrent, true)) {
             now = chargeNow;
             full = chargeFull;
             rate = std::abs(*current);
@@ -71,8 +90,8 @@ void BatteryMonitor::readBattery(const QString &dir, BatterySample &s, QString &
     s.timeToEmpty = rate && status == "Discharging"_L1 ? minutes(*now, *rate) : -1;
     s.timeToFull = rate && s.isCharging ? minutes(std::max(*full - *now, 0.0), *rate) : -1;
 
-    s.cycleCount = int(std::max<double>(value("cycle_count"_L1).value_or(0), 0));
-    if (const auto temp = value("temp"_L1))
+    s.cycleCount = int(value("cycle_count"_L1, maxCycles).value_or(0));
+    if (const auto temp = value("temp"_L1, maxTenthsCelsius, true); temp && Plausible::celsius(*temp / 10.0))
         s.temperature = *temp / 10.0;
 
     if (energyFull && energyDesign && *energyDesign >= 1)
@@ -80,17 +99,20 @@ void BatteryMonitor::readBattery(const QString &dir, BatterySample &s, QString &
     else if (chargeFull && chargeDesign && *chargeDesign >= 1)
         s.health = std::min(*chargeFull / *chargeDesign, 1.0);
 
+    // Capacities in mAh; one beyond any battery (energy over a nonsense
+    // voltage) is left at 0.
+    const auto mAh = [](double value) { return value <= maxCharge / 1000.0 ? int(std::lround(value)) : 0; };
     if (chargeDesign || chargeFull) {
-        s.designCapacity = int(std::lround(chargeDesign.value_or(0) / 1000.0));
-        s.maxCapacity = int(std::lround(chargeFull.value_or(0) / 1000.0));
+        s.designCapacity = mAh(chargeDesign.value_or(0) / 1000.0);
+        s.maxCapacity = mAh(chargeFull.value_or(0) / 1000.0);
     } else if (energyDesign || energyFull) {
-        double volts = value("voltage_min_design"_L1).value_or(0);
+        double volts = value("voltage_min_design"_L1, maxVoltage).value_or(0);
         if (!(volts > 0))
-            volts = value("voltage_now"_L1).value_or(0);
+            volts = value("voltage_now"_L1, maxVoltage).value_or(0);
         if (volts > 0) {
             // µWh / µV is Ah.
-            s.designCapacity = int(std::lround(energyDesign.value_or(0) / volts * 1000.0));
-            s.maxCapacity = int(std::lround(energyFull.value_or(0) / volts * 1000.0));
+            s.designCapacity = mAh(energyDesign.value_or(0) / volts * 1000.0);
+            s.maxCapacity = mAh(energyFull.value_or(0) / volts * 1000.0);
         }
     }
 }

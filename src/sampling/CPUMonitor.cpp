@@ -15,7 +15,10 @@ bool nextNumber(const char *&p, const char *end, quint64 &value)
     const char *start = p;
     quint64 v = 0;
     while (p < end && *p >= '0' && *p <= '9') {
-        v = v * 10 + quint64(*p - '0');
+        const quint64 digit = quint64(*p - '0');
+        if (v > (~quint64(0) - digit) / 10)
+            return false; // more than 64 bits: not a counter
+        v = v * 10 + digit;
         ++p;
     }
     if (p == start || (p < end && *p != ' ' && *p != '\t'))
@@ -41,7 +44,7 @@ CPUSample idleRecord(int cores)
 QString cleanedName(const QByteArray &raw)
 {
     const qsizetype nul = raw.indexOf('\0');
-    return QString::fromUtf8(nul < 0 ? raw : raw.left(nul)).simplified();
+    return SysFs::printable(QString::fromUtf8(nul < 0 ? raw : raw.left(nul))).simplified();
 }
 
 } // namespace

@@ -238,7 +238,8 @@ QHash<QString, DiskBytes> parseDiskStats(QByteArrayView text, QByteArray *names)
             continue;
         const auto sectorsRead = SysFs::parseUnsigned(f[5].begin(), f[5].end());
         const auto sectorsWritten = SysFs::parseUnsigned(f[9].begin(), f[9].end());
-        if (!sectorsRead || !sectorsWritten)
+        constexpr quint64 maxSectors = ~quint64(0) / 512;
+        if (!sectorsRead || !sectorsWritten || *sectorsRead > maxSectors || *sectorsWritten > maxSectors)
             continue;
         if (names) {
             names->append(f[2]);
@@ -444,10 +445,17 @@ std::optional<DiskMonitor::FsFigures> DiskMonitor::statVolume(const QString &mou
     if (::statvfs(path.constData(), &vfs) != 0)
         return std::nullopt;
     const double unit = double(vfs.f_frsize ? vfs.f_frsize : vfs.f_bsize);
+    return capacityOf(unit, vfs.f_blocks, vfs.f_bfree, vfs.f_bavail, (vfs.f_flag & ST_RDONLY) != 0);
+}
+
+DiskMonitor::FsFigures DiskMonitor::capacityOf(double blockSize, quint64 blocks, quint64 freeBlocks,
+                                                quint64 availableBlocks, bool readOnly)
+{
+    const quint64 usedBlocks = blocks > freeBlocks ? blocks - freeBlocks : 0;
     FsFigures figures;
-    figures.total = unit * double(vfs.f_blocks);
-    figures.free = unit * double(vfs.f_bavail);
-    figures.readOnly = (vfs.f_flag & ST_RDONLY) != 0;
+    figures.free = blockSize * double(availableBlocks);
+    figures.total = blockSize * double(usedBlocks) + figures.free;
+    figures.readOnly = readOnly;
     return figures;
 }
 
@@ -489,7 +497,7 @@ bool DiskMonitor::readMountTable()
     const QString path = m_roots.proc + QLatin1StringView("/self/mountinfo");
     if (!SysFs::readInto(path, m_mountBuffer, 4 << 20))
         return false;
-    const int fd = ::open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC);
+    const int fd = ::open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
     struct statfs fs {};
     if (fd >= 0 && ::fstatfs(fd, &fs) == 0 && fs.f_type == PROC_SUPER_MAGIC) {
         // Arm the change notice; the table just read is the baseline.
@@ -572,7 +580,9 @@ QList<VolumeInfo> DiskMonitor::volumes()
             continue;
         if (!(r.figures.total > 0))
             continue;
-        list.append({volumeName(r.mount), r.mount.mountPoint, r.figures.total, std::max(r.figures.free, 0.0)});
+        // The mount point stays as it is for statvfs; the record is for show.
+        list.append({SysFs::printable(volumeName(r.mount)), SysFs::printable(r.mount.mountPoint), r.figures.total,
+                     std::max(r.figures.free, 0.0)});
     }
     std::stable_sort(list.begin(), list.end(), [](const VolumeInfo &a, const VolumeInfo &b) { return a.total > b.total; });
     return list;

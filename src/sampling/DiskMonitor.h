@@ -70,7 +70,7 @@ class DiskMonitor {
 public:
     // Capacity of one mounted file system.
     struct FsFigures {
-        double total = 0;   // bytes
+        double total = 0;   // bytes, used + free
         double free = 0;    // bytes available to unprivileged users
         bool readOnly = false;
     };
@@ -102,6 +102,11 @@ public:
 
     // statvfs of one mount point (folders only).
     static std::optional<FsFigures> statVolume(const QString &mountPoint);
+    // Capacity as df shows it: used = blocks - free blocks, free = the blocks
+    // available to unprivileged users, total = used + free. Blocks reserved
+    // for root count as neither, so the used share is df's Use%.
+    static FsFigures capacityOf(double blockSize, quint64 blocks, quint64 freeBlocks, quint64 availableBlocks,
+                                bool readOnly);
 
 private:
     class StatWorker;

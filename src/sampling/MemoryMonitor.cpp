@@ -138,8 +138,10 @@ double MemoryMonitor::zramInUse()
                 ++p;
             if (p == start)
                 break;
-            if (field == 2)
-                sum += double(*SysFs::parseUnsigned(start, p));
+            if (field == 2) {
+                if (const auto bytes = SysFs::parseUnsigned(start, p))
+                    sum += double(*bytes);
+            }
         }
     }
     return sum;

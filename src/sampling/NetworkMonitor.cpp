@@ -143,10 +143,12 @@ bool NetworkMonitor::readCounters(quint64 &in, quint64 &out, double &newIn, doub
                 q = e;
             }
             if (got == 9 && !name.isEmpty()) {
-                size_t index = hint < m_interfaces.size() && m_interfaces[hint].name == name ? hint : m_interfaces.size();
-                for (size_t i = 0; index == m_interfaces.size() && i < m_interfaces.size(); ++i) {
-                    if (m_interfaces[i].name == name)
-                        index = i;
+                size_t index = m_interfaces.size();
+                if (hint < m_interfaces.size() && m_interfaces[hint].name == name) {
+                    index = hint;
+                } else if (const auto it = m_index.constFind(QByteArray::fromRawData(name.data(), name.size()));
+                           it != m_index.cend()) {
+                    index = *it;
                 }
                 const bool known = index < m_interfaces.size();
                 if (!known) {
@@ -154,6 +156,7 @@ bool NetworkMonitor::readCounters(quint64 &in, quint64 &out, double &newIn, doub
                     fresh.name = name.toByteArray();
                     fresh.counted = isCounted(fresh.name);
                     fresh.loopback = fresh.name == "lo";
+                    m_index.insert(fresh.name, index);
                     m_interfaces.push_back(std::move(fresh));
                 }
                 Interface &i = m_interfaces[index];
@@ -175,7 +178,11 @@ bool NetworkMonitor::readCounters(quint64 &in, quint64 &out, double &newIn, doub
     }
     // Interfaces that went away are forgotten; should one come back, it
     // starts afresh.
-    std::erase_if(m_interfaces, [](const Interface &i) { return !i.seen; });
+    if (std::erase_if(m_interfaces, [](const Interface &i) { return !i.seen; }) > 0) {
+        m_index.clear();
+        for (size_t i = 0; i < m_interfaces.size(); ++i)
+            m_index.insert(m_interfaces[i].name, i);
+    }
 
     const Sums &use = counted.interfaces > 0 || !m_countOnly.isEmpty() ? counted : fallback;
     in = use.in;
@@ -265,7 +272,8 @@ void NetworkMonitor::lookUpPrimary()
 {
     const AddressList addresses = m_addresses ? m_addresses() : AddressList{};
     if (const auto routed = defaultRouteInterface()) {
-        m_iface = *routed;
+        // Names are matched as the system gives them and shown printable.
+        m_iface = SysFs::printable(*routed);
         m_ip = Records::unknownText;
         for (const auto &[name, address] : addresses) {
             if (name == *routed) {
@@ -278,7 +286,7 @@ void NetworkMonitor::lookUpPrimary()
     // No default route: the first physical interface that has an address.
     for (const auto &[name, address] : addresses) {
         if (isCounted(QFile::encodeName(name))) {
-            m_iface = name;
+            m_iface = SysFs::printable(name);
             m_ip = address;
             return;
         }

@@ -8,6 +8,7 @@
 #include "sampling/SystemRoots.h"
 
 #include <QByteArray>
+#include <QHash>
 #include <QList>
 #include <QStringList>
 
@@ -61,6 +62,7 @@ private:
     SysFs::KeptFile m_route;
     QByteArray m_buffer;
     std::vector<Interface> m_interfaces;
+    QHash<QByteArray, size_t> m_index; // position in m_interfaces by name
     QList<QByteArray> m_countOnly;
     std::function<AddressList()> m_addresses;
     std::function<double()> m_clock;

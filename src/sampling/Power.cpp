@@ -1,5 +1,6 @@
 #include "sampling/Power.h"
 
+#include "sampling/Plausible.h"
 #include "sampling/SysFs.h"
 
 using namespace Qt::StringLiterals;
@@ -77,15 +78,19 @@ double PowerMeter::boardWatts(const std::vector<nvml::NvmlReading> &nvidia, doub
     for (size_t i = 0; i < nvidia.size(); ++i) {
         const nvml::NvmlReading &now = nvidia[i];
         const nvml::NvmlReading *before = i < m_prevNvidia.size() ? &m_prevNvidia[i] : nullptr;
-        if (now.hasEnergy && before && before->hasEnergy && now.energyJ >= before->energyJ)
-            watts += (now.energyJ - before->energyJ) / dt;
-        else if (now.hasPower)
+        const double fromCounter = now.hasEnergy && before && before->hasEnergy && now.energyJ >= before->energyJ
+            ? (now.energyJ - before->energyJ) / dt
+            : -1;
+        if (Plausible::watts(fromCounter))
+            watts += fromCounter;
+        else if (now.hasPower && Plausible::watts(now.powerW))
             watts += now.powerW;
     }
     for (const Board &board : m_boards) {
         if (SysFs::readLine(board.runtimeStatus) == "suspended"_L1)
             continue;
-        if (const std::optional<qint64> microwatts = SysFs::readLong(board.power); microwatts && *microwatts > 0)
+        const std::optional<qint64> microwatts = SysFs::readLong(board.power);
+        if (microwatts && *microwatts > 0 && Plausible::watts(double(*microwatts) / 1e6))
             watts += double(*microwatts) / 1e6;
     }
     return watts;
@@ -118,13 +123,19 @@ QmPowerReading PowerMeter::read()
         for (size_t i = 0; i < counters.size() && valid; ++i) {
             double delta = counters[i] - m_prevCounters[i];
             if (delta < 0) {
-                // Wrapped: the counter ran up to its range and started again.
+                // Wrapped, if the counter was close enough to the top of its
+                // range to have run past it in this interval; otherwise it
+                // was reset, and the reading starts over from here.
                 const double range = m_zones[qsizetype(i)].range;
                 if (range > 0 && m_prevCounters[i] <= range)
                     delta = range - m_prevCounters[i] + counters[i];
                 else
                     valid = false;
             }
+            // Also refuses a wrap that would take more energy than the zone
+            // can draw, and a counter that leapt forward.
+            if (!Plausible::watts(delta * 1e-6 / dt))
+                valid = false;
             const double joules = delta * 1e-6;
             switch (m_zones[qsizetype(i)].kind) {
             case Kind::package: package += joules; break;

@@ -7,7 +7,10 @@
 // Zones by name: package-N is the package (the total), core the CPU cores,
 // uncore the integrated GPU, dram the memory (counted in the total); psys and
 // the MMIO copies of the package counters are left out. Without a core zone
-// the package stands for the CPU. Counters wrap through max_energy_range_uj.
+// the package stands for the CPU. Counters wrap through max_energy_range_uj;
+// a counter that falls back from far below the top of its range was reset
+// rather than wrapped, and like any figure beyond what the hardware can
+// draw it gives a reading that is not ok, after which measuring starts over.
 //
 // Each reading is the average since the previous one: the first after
 // creation or reset() only primes, and so does one more than `maxInterval`

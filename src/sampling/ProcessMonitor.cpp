@@ -112,7 +112,7 @@ bool ProcessMonitor::scan(std::vector<Entry> &out)
         if (!allDigits(ent->d_name) || std::strlen(ent->d_name) > 10)
             continue;
         std::snprintf(path, sizeof path, "%s/stat", ent->d_name);
-        const int fd = ::openat(dirFd, path, O_RDONLY | O_CLOEXEC);
+        const int fd = ::openat(dirFd, path, O_RDONLY | O_CLOEXEC | O_NONBLOCK);
         if (fd < 0)
             continue; // gone since the listing
         // One read: the kernel hands over the whole line at once when the
@@ -260,7 +260,7 @@ QList<ProcInfo> ProcessMonitor::topByCPU(int limit)
     list.reserve(qsizetype(count));
     for (size_t i = 0; i < count; ++i) {
         const Entry &e = *rows[i].entry;
-        list.append(ProcInfo(e.pid, QString::fromUtf8(e.name, e.nameLength), rows[i].cpu, rows[i].mem));
+        list.append(ProcInfo(e.pid, SysFs::printable(QString::fromUtf8(e.name, e.nameLength)), rows[i].cpu, rows[i].mem));
     }
 
     remember(m_entries, now);

@@ -1,5 +1,6 @@
 #include "sampling/SMC.h"
 
+#include "sampling/Plausible.h"
 #include "sampling/SysFs.h"
 
 using namespace Qt::StringLiterals;
@@ -119,7 +120,10 @@ std::optional<double> SMC::decode(const QString &type, const QByteArray &bytes)
     if (t == "flt"_L1) {
         if (n < 4)
             return std::nullopt;
-        return littleFloat();
+        const double f = littleFloat();
+        if (!std::isfinite(f)) // NaN and infinities are no reading
+            return std::nullopt;
+        return f;
     }
     if (t == "fpe2"_L1) {
         if (n < 2)
@@ -201,7 +205,7 @@ public:
             else
                 hi = mid - 1;
         }
-        return fallbackScan(key);
+        return std::nullopt;
     }
 
     std::optional<QByteArray> read(int index, uint32_t key) override
@@ -215,9 +219,6 @@ public:
 protected:
     virtual std::optional<QString> nameAt(int index) = 0;
     virtual std::optional<Entry> entryAt(int index) = 0;
-    // Where every probe is cheap, a table that turns out unsorted is still
-    // searched in full.
-    virtual std::optional<Found> fallbackScan(uint32_t) { return std::nullopt; }
 
     std::optional<Found> found(int index, uint32_t key)
     {
@@ -271,7 +272,9 @@ private:
     QString m_dir;
 };
 
-// A captured copy of the table: keys/<index>/{name,type,data}.
+// A captured copy of the table: keys/<index>/{name,type,data}. A capture
+// may hold any subset of the indexes, in any order, so the names are read
+// once, when the table is opened, and looked up by key after that.
 class CapturedTable : public IndexedTable {
 public:
     explicit CapturedTable(const QString &dir)
@@ -281,9 +284,24 @@ public:
         for (const QString &n : names) {
             bool ok = false;
             const int i = n.toInt(&ok);
-            if (ok && i >= 0 && i < 65536)
-                m_count = std::max(m_count, i + 1);
+            if (!ok || i < 0 || i >= 65536 || n != QString::number(i))
+                continue;
+            const std::optional<QString> name = nameAt(i);
+            if (!name)
+                continue;
+            // The first index of a key stands, as in the controller's own order.
+            if (const uint32_t code = SMC::fourCharCode(*name); !m_byKey.contains(code))
+                m_byKey.insert(code, i);
+            m_count = std::max(m_count, i + 1);
         }
+    }
+
+    std::optional<Found> find(uint32_t key) override
+    {
+        const auto it = m_byKey.constFind(key);
+        if (it == m_byKey.cend())
+            return std::nullopt;
+        return found(*it, key);
     }
 
 protected:
@@ -303,18 +321,9 @@ protected:
         return Entry{*name, *type, *data};
     }
 
-    std::optional<Found> fallbackScan(uint32_t key) override
-    {
-        for (int i = 0; i < m_count; ++i) {
-            const std::optional<QString> name = nameAt(i);
-            if (name && SMC::fourCharCode(*name) == key)
-                return found(i, key);
-        }
-        return std::nullopt;
-    }
-
 private:
     QString m_dir;
+    QHash<uint32_t, int> m_byKey;
 };
 
 // The hwmon attributes of the driver, which anyone may read.
@@ -328,7 +337,8 @@ public:
                 const std::optional<QString> label = SysFs::readLine(dir + u'/' + name);
                 if (label && !label->isEmpty())
                     add(*label, dir + QStringLiteral("/temp%1_input").arg(t), 0.001);
-            } else if (const int f = SysFs::indexedName(name, QLatin1StringView("fan"), QLatin1StringView("_input")); f >= 1) {
+            } else if (const int f = SysFs::indexedName(name, QLatin1StringView("fan"), QLatin1StringView("_input"));
+                       f >= 1 && f <= SMC::maxFans) {
                 fanCount = std::max(fanCount, f);
                 const QString prefix = dir + QStringLiteral("/fan%1_").arg(f);
                 const QString key = QStringLiteral("F%1").arg(f - 1);
@@ -490,14 +500,23 @@ QList<FanInfo> SMC::fans()
     const std::optional<double> n = readValue(QStringLiteral("FNum"));
     if (!n || !(*n > 0))
         return out;
-    const int count = int(std::min(std::trunc(*n), 255.0));
+    // The count bounds the fans; a fan the controller has no key of at all
+    // is not there, whatever the count says.
+    const int count = int(std::min(std::trunc(*n), double(maxFans)));
+    const auto speed = [this](const QString &key) {
+        const std::optional<double> rpm = readValue(key);
+        return rpm && Plausible::fanRpm(*rpm) ? *rpm : 0.0;
+    };
     for (int i = 0; i < count; ++i) {
         const QString prefix = u'F' + QString::number(i);
+        const QString keys[] = {prefix + "Ac"_L1, prefix + "Mn"_L1, prefix + "Mx"_L1};
+        if (std::none_of(std::begin(keys), std::end(keys), [this](const QString &k) { return lookUp(fourCharCode(k)); }))
+            continue;
         FanInfo fan;
         fan.index = i;
-        fan.current = readValue(prefix + "Ac"_L1).value_or(0);
-        fan.min = readValue(prefix + "Mn"_L1).value_or(0);
-        fan.max = readValue(prefix + "Mx"_L1).value_or(0);
+        fan.current = speed(keys[0]);
+        fan.min = speed(keys[1]);
+        fan.max = speed(keys[2]);
         out.append(fan);
     }
     return out;

@@ -66,6 +66,8 @@ public:
 
     bool isOpen() const { return m_isOpen; }
     std::optional<double> readValue(const QString &key);
+    // The fans below the controller's count (FNum) that it has keys for.
+    // Speeds that are unreadable or beyond any real fan are 0.
     QList<FanInfo> fans();
 
     // Code of a key or type: the first four UTF-8 bytes, first in the most
@@ -80,6 +82,10 @@ public:
 
     // Result byte of a reply for a key the controller does not have.
     static constexpr uint8_t keyNotFound = 0x84;
+
+    // Fan keys carry the fan's number in one character (F0Ac … F9Ac), so a
+    // controller describes at most ten fans.
+    static constexpr int maxFans = 10;
 
     class KeySource;
 

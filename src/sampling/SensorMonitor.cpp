@@ -1,5 +1,6 @@
 #include "sampling/SensorMonitor.h"
 
+#include "sampling/Plausible.h"
 #include "sampling/SysFs.h"
 
 using namespace Qt::StringLiterals;
@@ -46,10 +47,6 @@ bool wakesOnRead(const QString &chip)
     return chip == "amdgpu"_L1 || chip == "radeon"_L1 || chip == "nouveau"_L1;
 }
 
-bool plausible(double celsius)
-{
-    return celsius > 0 && celsius < 200;
-}
 
 struct Entry {
     TempReading reading;
@@ -119,7 +116,7 @@ void SensorMonitor::discover()
         if (SysFs::readLine(dir + "/type"_L1) != "Battery"_L1 || SysFs::readLine(dir + "/scope"_L1) == "Device"_L1)
             continue;
         if (SysFs::exists(dir + "/temp"_L1))
-            addTemp(dir + "/temp"_L1, name + " battery"_L1, 0.1);
+            addTemp(dir + "/temp"_L1, SysFs::printable(name) + " battery"_L1, 0.1);
     }
 
     const QString hwmon = m_roots.sys + "/class/hwmon/"_L1;
@@ -130,7 +127,7 @@ void SensorMonitor::discover()
         if (chip.isEmpty())
             chip = SysFs::readLine(dir + "/device/name"_L1).value_or(QString());
         if (chip.isEmpty())
-            chip = entry;
+            chip = SysFs::printable(entry);
         if (supplyNames.contains(chip))
             continue;
 
@@ -157,10 +154,11 @@ void SensorMonitor::discover()
                 hwmonHasTemps = true;
             } else if (const int f = SysFs::indexedName(file, QLatin1StringView("fan"), QLatin1StringView("_input")); f >= 0) {
                 const QString prefix = base + QStringLiteral("/fan%1_").arg(f);
-                m_fans.append({SysFs::native(base + u'/' + file),
-                               double(std::max<qint64>(SysFs::readLong(prefix + "min"_L1).value_or(0), 0)),
-                               double(std::max<qint64>(SysFs::readLong(prefix + "max"_L1).value_or(0), 0)),
-                               status});
+                const auto limit = [&prefix](QLatin1StringView which) {
+                    const double rpm = double(SysFs::readLong(prefix + which).value_or(0));
+                    return Plausible::fanRpm(rpm) ? rpm : 0.0;
+                };
+                m_fans.append({SysFs::native(base + u'/' + file), limit("min"_L1), limit("max"_L1), status});
             }
         }
     }
@@ -173,7 +171,7 @@ void SensorMonitor::discover()
             if (!zone.startsWith(u"thermal_zone"))
                 continue;
             const QString type = SysFs::readLine(thermal + zone + "/type"_L1).value_or(QString());
-            addTemp(thermal + zone + "/temp"_L1, type.isEmpty() ? zone : type, 0.001);
+            addTemp(thermal + zone + "/temp"_L1, type.isEmpty() ? SysFs::printable(zone) : type, 0.001);
         }
     }
 
@@ -201,7 +199,7 @@ SensorSample SensorMonitor::read()
     QHash<QString, qsizetype> byName;
     // A later reading of the same name replaces the earlier one.
     auto add = [&](const QString &name, double celsius, quint8 classes) {
-        if (!plausible(celsius))
+        if (!Plausible::celsius(celsius))
             return;
         if (const auto it = byName.constFind(name); it != byName.cend()) {
             entries[*it].reading.celsius = celsius;
@@ -275,9 +273,11 @@ SensorSample SensorMonitor::read()
                 m_stale = true;
                 continue;
             }
+            if (!Plausible::fanRpm(double(*rpm)))
+                continue; // a stuck or confused tachometer: no reading
             FanInfo fan;
             fan.index = int(i);
-            fan.current = double(std::max<qint64>(*rpm, 0));
+            fan.current = double(*rpm);
             fan.min = m_fans[i].min;
             fan.max = m_fans[i].max;
             sample.fans.append(fan);

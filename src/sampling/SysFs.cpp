@@ -5,6 +5,7 @@
 #include <cerrno>
 #include <dirent.h>
 #include <fcntl.h>
+#include <limits>
 #include <sys/stat.h>
 #include <unistd.h>
 #include <utility>
@@ -76,15 +77,20 @@ std::optional<qint64> readLong(const char *nativePath)
     }
     if (p == end)
         return std::nullopt;
+    // The magnitude may reach 2^63 only for the most negative value.
+    const quint64 limit = negative ? quint64(1) << 63 : (quint64(1) << 63) - 1;
     quint64 value = 0;
     for (; p < end; ++p) {
         if (*p < '0' || *p > '9')
             return std::nullopt;
-        if (value > (quint64(1) << 62)) // far beyond anything the kernel reports
-            return std::nullopt;
-        value = value * 10 + quint64(*p - '0');
+        const quint64 digit = quint64(*p - '0');
+        if (value > (limit - digit) / 10)
+            return std::nullopt; // beyond a signed 64-bit number: refused, never wrapped
+        value = value * 10 + digit;
     }
-    return negative ? -qint64(value) : qint64(value);
+    if (negative)
+        return value == quint64(1) << 63 ? std::numeric_limits<qint64>::min() : -qint64(value);
+    return qint64(value);
 }
 
 std::optional<qint64> readLong(const QString &path)
@@ -102,7 +108,23 @@ std::optional<QString> readLine(const QString &path, bool trim)
     while (len < n && buffer[len] != '\n' && buffer[len] != '\0')
         ++len;
     const QString line = QString::fromUtf8(buffer, len);
-    return trim ? line.trimmed() : line;
+    return trim ? printable(line).trimmed() : line;
+}
+
+QString printable(const QString &text)
+{
+    const auto isControl = [](QChar c) { return c.unicode() < 0x20 || (c.unicode() >= 0x7f && c.unicode() <= 0x9f); };
+    if (std::none_of(text.cbegin(), text.cend(), isControl))
+        return text;
+    QString out;
+    out.reserve(text.size());
+    for (const QChar c : text) {
+        if (c == u'\t' || c == u'\n' || c == u'\r')
+            out.append(u' ');
+        else if (!isControl(c))
+            out.append(c);
+    }
+    return out;
 }
 
 bool writeText(const QString &path, const QByteArray &text)
@@ -267,11 +289,15 @@ std::optional<quint64> parseUnsigned(const char *begin, const char *end)
         ++begin;
     if (begin == end)
         return std::nullopt;
+    constexpr quint64 max = std::numeric_limits<quint64>::max();
     quint64 v = 0;
     for (const char *p = begin; p < end; ++p) {
         if (*p < '0' || *p > '9')
             return std::nullopt;
-        v = v * 10 + quint64(*p - '0');
+        const quint64 digit = quint64(*p - '0');
+        if (v > (max - digit) / 10)
+            return std::nullopt;
+        v = v * 10 + digit;
     }
     return v;
 }

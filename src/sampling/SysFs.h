@@ -25,15 +25,23 @@ bool readInto(const QString &path, QByteArray &buffer, qsizetype maxBytes = 1 <<
 inline QByteArray native(const QString &path) { return path.toLocal8Bit(); }
 
 // The file's text as one decimal integer (blanks and one newline allowed
-// around it; a sign is allowed).
+// around it; a sign is allowed). A number beyond the signed 64-bit range
+// (the kernel's all-ones "unknown", for one) is refused.
 std::optional<qint64> readLong(const char *nativePath);
 inline std::optional<qint64> readLong(const QByteArray &nativePath) { return readLong(nativePath.constData()); }
 std::optional<qint64> readLong(const QString &path);
 
 // The first line without its newline (at most 512 bytes are read). `trim`
-// also strips surrounding blanks; keep them where they matter (SMC type
-// names such as "ui8 ").
+// makes it text for people: surrounding blanks stripped and control
+// characters taken out (see printable). Without it the line comes back as
+// the file has it, for codes where every byte counts (SMC type names such
+// as "ui8 ").
 std::optional<QString> readLine(const QString &path, bool trim = true);
+
+// `text` without control characters (C0, DEL and C1), so that a name taken
+// from the kernel can be printed to a terminal as it stands: tabs and line
+// breaks become spaces, the rest are dropped.
+QString printable(const QString &text);
 
 // Writes `text` to an attribute; false when it cannot be written.
 bool writeText(const QString &path, const QByteArray &text);
@@ -53,7 +61,8 @@ bool exists(const QString &path);
 // link counts even when what it points at is not there).
 bool linkOrFileExists(const QString &path);
 
-// Parses a decimal unsigned integer from [begin, end); nullopt on garbage.
+// Parses a decimal unsigned integer from [begin, end); nullopt on garbage
+// and on numbers beyond 64 bits.
 std::optional<quint64> parseUnsigned(const char *begin, const char *end);
 
 // A file that is read again on every tick. Under /proc and /sys the

@@ -13,7 +13,9 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <sys/inotify.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 namespace {
 
@@ -115,31 +117,65 @@ private slots:
         QVERIFY(QString::fromUtf8(english.out).contains(u"Memory"_qs));
     }
 
+    void specialFilesAtTheSettingsPathAreLeftAlone_data()
+    {
+        QTest::addColumn<bool>("fifo");
+        QTest::addColumn<QString>("command");
+        for (const char *command : {"status", "bar"}) {
+            QTest::addRow("fifo, %s", command) << true << QString::fromLatin1(command);
+            QTest::addRow("folder, %s", command) << false << QString::fromLatin1(command);
+        }
+    }
+
     void specialFilesAtTheSettingsPathAreLeftAlone()
     {
         // A FIFO would block QSettings' open() forever; a folder would be
-        // replaced on the first write. Both give defaults for the run.
-        for (const bool fifo : {true, false}) {
-            QTemporaryDir home;
-            QVERIFY(QDir().mkpath(home.filePath(u"sulkbox"_qs)));
-            const QString path = home.filePath(u"sulkbox/sulkbox.conf"_qs);
-            if (fifo)
-                QCOMPARE(::mkfifo(QFile::encodeName(path).constData(), 0600), 0);
-            else
-                QVERIFY(QDir().mkpath(path));
-            QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
-            env.insert(u"XDG_CONFIG_HOME"_qs, home.path());
-            const Run r = sulkbox({u"status"_qs, u"--json"_qs}, 20000, env);
+        // replaced on the first write. Both give defaults for the run and
+        // one warning, and are never opened: inotify would tell.
+        QFETCH(bool, fifo);
+        QFETCH(QString, command);
+        QTemporaryDir home;
+        QVERIFY(QDir().mkpath(home.filePath(u"sulkbox"_qs)));
+        const QString path = home.filePath(u"sulkbox/sulkbox.conf"_qs);
+        const QByteArray native = QFile::encodeName(path);
+        if (fifo)
+            QCOMPARE(::mkfifo(native.constData(), 0600), 0);
+        else
+            QVERIFY(QDir().mkpath(path));
+        const int watch = ::inotify_init1(IN_NONBLOCK | IN_CLOEXEC);
+        QVERIFY(watch >= 0);
+        QVERIFY(::inotify_add_watch(watch, native.constData(), IN_OPEN | IN_ACCESS | IN_MODIFY | IN_ATTRIB) >= 0);
+
+        QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
+        env.insert(u"XDG_CONFIG_HOME"_qs, home.path());
+        QByteArray out, err;
+        if (command == u"status") {
+            const Run r = sulkbox({command, u"--json"_qs}, 20000, env);
             QCOMPARE(r.status, QProcess::NormalExit);
             QCOMPARE(r.exitCode, 0);
             QVERIFY(QJsonDocument::fromJson(r.out).isObject());
-            const QList<QByteArray> warnings = r.err.trimmed().split('\n');
-            QCOMPARE(warnings.size(), 1);
-            QVERIFY2(warnings.first().contains("sulkbox.conf is not a regular file"), r.err.constData());
-            struct stat st {};
-            QCOMPARE(::lstat(QFile::encodeName(path).constData(), &st), 0);
-            QVERIFY(fifo ? S_ISFIFO(st.st_mode) : S_ISDIR(st.st_mode));
+            err = r.err;
+        } else {
+            QProcess p;
+            p.setProcessEnvironment(env);
+            p.start(QStringLiteral(SULKBOX_EXE), {command});
+            QVERIFY(p.waitForStarted());
+            QTRY_VERIFY_WITH_TIMEOUT((out += p.readAllStandardOutput()).count('\n') >= 2, 10000);
+            p.kill();
+            p.waitForFinished();
+            err = p.readAllStandardError();
         }
+        const QList<QByteArray> warnings = err.trimmed().split('\n');
+        QCOMPARE(warnings.size(), 1);
+        QVERIFY2(warnings.first().contains("sulkbox.conf is not a regular file"), err.constData());
+
+        char events[4096];
+        const ssize_t n = ::read(watch, events, sizeof events);
+        ::close(watch);
+        QVERIFY2(n < 0, "the file at the settings path was opened");
+        struct stat st {};
+        QCOMPARE(::lstat(native.constData(), &st), 0);
+        QVERIFY(fifo ? S_ISFIFO(st.st_mode) : S_ISDIR(st.st_mode));
     }
 
     void displayWidthCountsTerminalCells_data()

@@ -152,6 +152,48 @@ private slots:
         QCOMPARE(b.timeToFull, -1);
     }
 
+    void absurdFiguresAreDroppedNeverWrapped()
+    {
+        // What a damaged snapshot or a confused driver can hold: counts past
+        // 2^31, capacities of exajoules, a battery hotter than the sun.
+        QTemporaryDir a;
+        addSupply(a, "BAT0", {{"type", "Battery"}, {"status", "Discharging"}, {"capacity", "64"},
+                              {"cycle_count", "2147483648"}, {"charge_now", "18446744073709551615"},
+                              {"charge_full", "9223372036854775807"}, {"charge_full_design", "4000000000000000000"},
+                              {"current_now", "500000"}, {"temp", "900000000"}});
+        BatterySample b = readTree(a);
+        QVERIFY(b.present);
+        QCOMPARE(b.cycleCount, 0);
+        QCOMPARE(b.charge, 0.64);
+        QCOMPARE(b.designCapacity, 0);
+        QCOMPARE(b.maxCapacity, 0);
+        QCOMPARE(b.health, 0.0);
+        QCOMPARE(b.timeToEmpty, -1);
+        QCOMPARE(b.temperature, 0.0);
+
+        // Capacities from energy over a nonsense voltage would overflow.
+        QTemporaryDir e;
+        addSupply(e, "BAT0", {{"type", "Battery"}, {"status", "Charging"}, {"energy_now", "25000000"},
+                              {"energy_full", "50000000"}, {"energy_full_design", "57000000"},
+                              {"voltage_min_design", "1"}, {"cycle_count", "9000000000"}});
+        b = readTree(e);
+        QCOMPARE(b.charge, 0.5);
+        QCOMPARE(b.health, 50.0 / 57.0);
+        QCOMPARE(b.designCapacity, 0);
+        QCOMPARE(b.maxCapacity, 0);
+        QCOMPARE(b.cycleCount, 0);
+
+        // Plausible figures at the edges still count.
+        QTemporaryDir p;
+        addSupply(p, "BAT0", {{"type", "Battery"}, {"status", "Full"}, {"charge_now", "4000000"},
+                              {"charge_full", "4000000"}, {"charge_full_design", "4000000"},
+                              {"cycle_count", "2500"}, {"temp", "455"}});
+        b = readTree(p);
+        QCOMPARE(b.cycleCount, 2500);
+        QCOMPARE(b.temperature, 45.5);
+        QCOMPARE(b.designCapacity, 4000);
+    }
+
     void statusTellsAboutPowerWithoutAMainsSupply()
     {
         QTemporaryDir a;

@@ -10,6 +10,7 @@
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
+#include <QProcess>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -161,13 +162,14 @@ private Q_SLOTS:
         DiskMonitor monitor(fixtureRoots(QStringLiteral("server")), options(stat));
         const DiskSample s = monitor.read();
 
-        // Equal sizes keep the mount table's order.
+        // Equal sizes keep the mount table's order. The tab in a mount point
+        // (asked for as it is) is shown as a space.
         QCOMPARE(paths(s), (QStringList{QStringLiteral("/home"), QStringLiteral("/var/lib/postgresql"),
                                         QStringLiteral("/srv/media library"), QStringLiteral("/srv/scratch"),
-                                        QStringLiteral("/"), QStringLiteral("/mnt/weird\\name\ttab")}));
+                                        QStringLiteral("/"), QStringLiteral("/mnt/weird\\name tab")}));
         QCOMPARE(names(s), (QStringList{QStringLiteral("home"), QStringLiteral("postgresql"),
                                         QStringLiteral("media library"), QStringLiteral("scratch"),
-                                        QStringLiteral("db01"), QStringLiteral("weird\\name\ttab")}));
+                                        QStringLiteral("db01"), QStringLiteral("weird\\name tab")}));
         QVERIFY(!stat.asked->contains(QStringLiteral("/mnt/nas")));
         QVERIFY(!stat.asked->contains(QStringLiteral("/mnt/backup copy")));
         // /media is a later bind of the whole media volume: the original
@@ -183,6 +185,35 @@ private Q_SLOTS:
         QCOMPARE(t.volumes.value(0).path, QStringLiteral("/srv/nfs"));
         QCOMPARE(t.volumes.value(0).name, QStringLiteral("nfs"));
         QCOMPARE(t.volumes.size(), 6);
+    }
+
+    void capacityAgreesWithDf()
+    {
+        // Blocks held back for root are neither used nor available to the
+        // user: used is what is taken, free what the user can still write,
+        // and the share df's Use%.
+        const Figures f = DiskMonitor::capacityOf(4096, 1000, 300, 250, false);
+        QCOMPARE(f.total, (700.0 + 250.0) * 4096);
+        QCOMPARE(f.free, 250.0 * 4096);
+        QCOMPARE((VolumeInfo{QString(), QString(), f.total, f.free}.usedShare()), 700.0 / 950.0);
+        // More free blocks than blocks (a damaged figure): nothing used.
+        QCOMPARE(DiskMonitor::capacityOf(4096, 100, 200, 50, false).total, 50.0 * 4096);
+
+        // And on this machine, against df itself.
+        QProcess df;
+        df.start(QStringLiteral("df"), {QStringLiteral("-B1"), QStringLiteral("--output=used,avail"), QStringLiteral("/")});
+        if (!df.waitForFinished(10000) || df.exitCode() != 0)
+            QSKIP("df is not available");
+        const QList<QByteArray> row = df.readAllStandardOutput().split('\n').value(1).simplified().split(' ');
+        QCOMPARE(row.size(), 2);
+        const double used = row[0].toDouble(), avail = row[1].toDouble();
+        const std::optional<Figures> live = DiskMonitor::statVolume(QStringLiteral("/"));
+        QVERIFY(live);
+        // Other work on this disk may write between the two looks.
+        const double slack = 0.002 * (used + avail);
+        QVERIFY2(qAbs(live->free - avail) < slack, qPrintable(QStringLiteral("%1 %2").arg(live->free).arg(avail)));
+        QVERIFY2(qAbs(live->total - (used + avail)) < slack,
+                 qPrintable(QStringLiteral("%1 %2").arg(live->total).arg(used + avail)));
     }
 
     void readOnlyAndEmptyVolumes()

@@ -7,7 +7,19 @@
 
 #include <QTest>
 
+#include <algorithm>
+#include <limits>
+
+#include <time.h>
+
 namespace {
+
+qint64 threadCpuNs()
+{
+    timespec ts{};
+    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &ts);
+    return qint64(ts.tv_sec) * 1000000000 + ts.tv_nsec;
+}
 
 struct Counters {
     QByteArray name;
@@ -59,6 +71,41 @@ class NetworkMonitorTest : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
+    void readingGrowsLinearlyWithTheInterfaces()
+    {
+        // Thousands of veth pairs are ordinary on a container host. The work
+        // of the first reading, and of one after the file changed its
+        // order, must grow with the number of interfaces, not its square:
+        // ten times the interfaces may cost ten times the processor time
+        // (plus noise), where a quadratic lookup costs a hundred times.
+        const auto cost = [](int interfaces) {
+            QList<Counters> rows;
+            for (int i = 0; i < interfaces; ++i)
+                rows.append({"veth" + QByteArray::number(i).rightJustified(5, '0'), quint64(i), quint64(i)});
+            QList<Counters> reversed(rows.crbegin(), rows.crend());
+            qint64 best = std::numeric_limits<qint64>::max();
+            for (int round = 0; round < 3; ++round) {
+                Rig rig;
+                rig.monitor.setCountedInterfaces({QStringLiteral("veth00000")});
+                rig.dev(rows);
+                const qint64 t0 = threadCpuNs();
+                rig.monitor.read(false);
+                const qint64 t1 = threadCpuNs();
+                rig.dev(reversed);
+                rig.now += 1;
+                const qint64 t2 = threadCpuNs();
+                rig.monitor.read(false);
+                best = std::min(best, (t1 - t0) + (threadCpuNs() - t2));
+            }
+            return double(std::max<qint64>(best, 1));
+        };
+        cost(200); // warm up
+        const double small = cost(2000);
+        const double large = cost(20000);
+        QVERIFY2(large / small < 30, qPrintable(QStringLiteral("2,000: %1 ms, 20,000: %2 ms")
+                                                    .arg(small / 1e6).arg(large / 1e6)));
+    }
+
     void laptopCountsOnlyPhysicalInterfaces()
     {
         NetworkMonitor monitor({TestSupport::fixture("laptop/proc"), TestSupport::fixture("laptop/sys")});

@@ -99,6 +99,53 @@ private slots:
         compareReading(rig.readAfter(1.0), watts(0, 0, 2.0));
     }
 
+    void counterFallingBackIsAResetNotAWrap()
+    {
+        // A counter far from the top of its range that falls back toward 0
+        // was reset (or a snapshot was damaged); taken for a wrap it would
+        // read as a quarter of a megawatt.
+        Rig rig("laptop");
+        rig.set("intel-rapl:0", 5000000000);
+        QCOMPARE(rig.meter->read().ok, 0);
+        rig.set("intel-rapl:0", 1000000);
+        QCOMPARE(rig.readAfter(1.0).ok, 0);
+        // Measured again from the value it fell to.
+        rig.set("intel-rapl:0", 3000000);
+        compareReading(rig.readAfter(1.0), watts(0, 0, 2.0));
+
+        // A jump forward no package could draw is no reading either.
+        rig.set("intel-rapl:0", 3000000 + 50000000000);
+        QCOMPARE(rig.readAfter(1.0).ok, 0);
+        rig.set("intel-rapl:0", 3000000 + 50000000000 + 7000000);
+        compareReading(rig.readAfter(1.0), watts(0, 0, 7.0));
+    }
+
+    void implausibleBoardPowerIsDropped()
+    {
+        Rig rig("amd-desktop");
+        QFile f(rig.sys + QStringLiteral("/class/hwmon/hwmon1/power1_average"));
+        QVERIFY(f.open(QIODevice::WriteOnly | QIODevice::Truncate));
+        f.write("4600000000000000000\n");
+        f.close();
+        rig.meter->read();
+        rig.set("intel-rapl:0", 4000000000 + 90000000);
+        compareReading(rig.readAfter(1.0), watts(90.0, 0, 90.0));
+
+        // NVIDIA boards likewise, counter and momentary figure alike.
+        Rig laptop("laptop");
+        double joules = 1000;
+        laptop.meter->setNvidiaSource([&joules] {
+            nvml::NvmlReading board;
+            board.ok = board.hasEnergy = board.hasPower = true;
+            board.energyJ = joules;
+            board.powerW = 1e12;
+            return std::vector<nvml::NvmlReading>{board};
+        });
+        laptop.meter->read();
+        joules += 1e9;
+        compareReading(laptop.readAfter(1.0), watts(0, 0, 0));
+    }
+
     void intervalRule()
     {
         Rig rig("laptop");

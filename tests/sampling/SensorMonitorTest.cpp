@@ -237,6 +237,33 @@ private slots:
         QCOMPARE(celsiusOf(s, QStringLiteral("k10temp Tctl")), 70.0);
     }
 
+    void absurdFanSpeedsAreLeftOut()
+    {
+        // hwmon: a speed no fan turns at is no reading; limits likewise.
+        QTemporaryDir tmp;
+        const QString root = copyOf(tmp, QStringLiteral("amd-desktop"));
+        const QString hwmon = root + QStringLiteral("/sys/class/hwmon/");
+        writeFile(hwmon + QStringLiteral("hwmon1/fan1_input"), "9223372036854775807\n");
+        writeFile(hwmon + QStringLiteral("hwmon2/fan3_max"), "4000000000\n");
+        const SystemRoots roots = SystemRoots::underPrefix(root);
+        SMC smc(roots);
+        SensorMonitor monitor(roots, smc);
+        SensorSample s = monitor.read();
+        QCOMPARE(s.fans, QList<FanInfo>({fan(1, 820, 300, 0), fan(2, 1105, 0, 0), fan(3, 640, 200, 0)}));
+
+        // The controller: such a speed reads as 0, like an unreadable one.
+        QTemporaryDir mac;
+        const QString macRoot = copyOf(mac, QStringLiteral("intel-mac"));
+        const QString key = macRoot + QStringLiteral("/sys/devices/platform/applesmc.768/keys/5/");
+        writeFile(key + QStringLiteral("type"), "flt \n");
+        writeFile(key + QStringLiteral("data"), QByteArray::fromHex("f9021550")); // 1e10
+        const SystemRoots macRoots = SystemRoots::underPrefix(macRoot);
+        SMC macSmc(macRoots);
+        SensorMonitor macMonitor(macRoots, macSmc);
+        s = macMonitor.read();
+        QCOMPARE(s.fans, QList<FanInfo>({fan(0, 2000, 1300, 6200), fan(1, 0, 1300, 6200)}));
+    }
+
     void sleepingGraphicsCardIsNotWoken()
     {
         QTemporaryDir tmp;

@@ -1,10 +1,13 @@
 #include "common/TestSupport.h"
 
 #include "sampling/SMC.h"
+#include "sampling/SensorMonitor.h"
+#include "sampling/SysFs.h"
 
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <cmath>
 #include <filesystem>
 
 namespace {
@@ -16,6 +19,26 @@ QByteArray hex(const char *text)
 {
     return QByteArray::fromHex(text);
 }
+
+// One key of a captured table: keys/<index>/{name,type,data}.
+void writeKey(const QString &smcDir, int index, const char *name, const char *type, const QByteArray &data)
+{
+    const QString dir = smcDir + QStringLiteral("/keys/%1/").arg(index);
+    writeFile(dir + QStringLiteral("name"), QByteArray(name) + '\n');
+    writeFile(dir + QStringLiteral("type"), QByteArray(type) + '\n');
+    writeFile(dir + QStringLiteral("data"), data);
+}
+
+// Counts the files and folders the readers touch while it lives.
+struct AccessCounter {
+    static inline int count = 0;
+    AccessCounter()
+    {
+        count = 0;
+        SysFs::setRecorder([](const char *) { ++count; });
+    }
+    ~AccessCounter() { SysFs::setRecorder(nullptr); }
+};
 
 } // namespace
 
@@ -50,6 +73,44 @@ private slots:
         const std::optional<double> v = SMC::decode(type, bytes);
         QVERIFY(v.has_value());
         QCOMPARE(*v, expected);
+    }
+
+    void nonFiniteFloatsAreAbsent_data()
+    {
+        QTest::addColumn<QString>("type");
+        QTest::addColumn<QByteArray>("bytes");
+        QTest::newRow("flt NaN") << "flt " << hex("0000c07f");
+        QTest::newRow("flt infinity") << "flt " << hex("0000807f");
+        QTest::newRow("flt minus infinity") << "flt " << hex("000080ff");
+    }
+
+    void nonFiniteFloatsAreAbsent()
+    {
+        QFETCH(QString, type);
+        QFETCH(QByteArray, bytes);
+        QCOMPARE(SMC::decode(type, bytes), std::optional<double>());
+    }
+
+    void nonFiniteKeysNeverReachTheSensors()
+    {
+        QTemporaryDir tmp;
+        const QString dir = tmp.path() + QStringLiteral("/sys/devices/platform/applesmc.768");
+        writeFile(dir + QStringLiteral("/name"), "applesmc\n");
+        writeKey(dir, 0, "F0Ac", "flt ", hex("0000807f"));
+        writeKey(dir, 1, "F0Mn", "flt ", hex("0000c07f"));
+        writeKey(dir, 2, "F0Mx", "flt ", hex("00c0da45")); // 7000
+        writeKey(dir, 3, "FNum", "ui8 ", hex("01"));
+        writeKey(dir, 4, "TC0P", "flt ", hex("0000807f"));
+        SystemRoots roots = SystemRoots::underPrefix(tmp.path());
+        SMC smc(roots);
+        SensorMonitor sensors(roots, smc);
+        const SensorSample s = sensors.read();
+        QCOMPARE(s.cpuTemp, 0.0);
+        for (const FanInfo &f : s.fans) {
+            QVERIFY(std::isfinite(f.current));
+            QVERIFY(std::isfinite(f.min));
+            QVERIFY(std::isfinite(f.max));
+        }
     }
 
     void tooFewBytesIsAbsent()
@@ -152,6 +213,68 @@ private slots:
             QVERIFY(!smc.readValue(QStringLiteral("TC0P")));
             QVERIFY(smc.fans().isEmpty());
         }
+    }
+
+    void sparseTableIsIndexedOnce()
+    {
+        // A captured table with only its first and last index: a key that
+        // is not there must not cost a probe of every index in between.
+        QTemporaryDir tmp;
+        const QString dir = tmp.path() + QStringLiteral("/sys/devices/platform/applesmc.768");
+        writeFile(dir + QStringLiteral("/name"), "applesmc\n");
+        writeKey(dir, 0, "#KEY", "ui32", hex("00000002"));
+        writeKey(dir, 65535, "TC0P", "sp78", hex("2f80"));
+        SMC smc(SystemRoots::underPrefix(tmp.path()));
+        QVERIFY(smc.isOpen());
+
+        AccessCounter accesses;
+        QCOMPARE(smc.readValue(QStringLiteral("TC0P")), 47.5);
+        QVERIFY(!smc.readValue(QStringLiteral("TG0P")));
+        QVERIFY(!smc.readValue(QStringLiteral("ZZZZ")));
+        QVERIFY(smc.fans().isEmpty());
+        QVERIFY2(AccessCounter::count < 50, qPrintable(QString::number(AccessCounter::count)));
+    }
+
+    void fansAreThoseThatExist()
+    {
+        // One stray attribute with a huge index must neither invent fans
+        // nor hide the real one.
+        QTemporaryDir tmp;
+        const QString dir = tmp.path() + QStringLiteral("/sys/devices/platform/applesmc.768");
+        writeFile(dir + QStringLiteral("/name"), "applesmc\n");
+        writeFile(dir + QStringLiteral("/fan1_input"), "1800\n");
+        writeFile(dir + QStringLiteral("/fan1_min"), "1200\n");
+        writeFile(dir + QStringLiteral("/fan1_max"), "6000\n");
+        writeFile(dir + QStringLiteral("/fan999999_input"), "0\n");
+        {
+            SMC smc(SystemRoots::underPrefix(tmp.path()));
+            const QList<FanInfo> fans = smc.fans();
+            QCOMPARE(fans.size(), 1);
+            QCOMPARE(fans[0].index, 0);
+            QCOMPARE(fans[0].current, 1800.0);
+            QCOMPARE(fans[0].max, 6000.0);
+        }
+
+        // A table whose fan count runs past the fans it describes: only the
+        // described ones, by their own index.
+        QTemporaryDir table;
+        const QString t = table.path() + QStringLiteral("/sys/devices/platform/applesmc.768");
+        writeFile(t + QStringLiteral("/name"), "applesmc\n");
+        writeKey(t, 0, "F0Ac", "fpe2", hex("1f40")); // 2000
+        writeKey(t, 1, "F2Ac", "fpe2", hex("2580")); // 2400
+        writeKey(t, 2, "FNum", "ui8 ", hex("ff"));
+        SMC smc(SystemRoots::underPrefix(table.path()));
+        const QList<FanInfo> fans = smc.fans();
+        QCOMPARE(fans.size(), 2);
+        QCOMPARE(fans[0].index, 0);
+        QCOMPARE(fans[0].current, 2000.0);
+        QCOMPARE(fans[1].index, 2);
+        QCOMPARE(fans[1].current, 2400.0);
+
+        // The count still bounds them.
+        writeKey(t, 2, "FNum", "ui8 ", hex("01"));
+        SMC one(SystemRoots::underPrefix(table.path()));
+        QCOMPARE(one.fans().size(), 1);
     }
 
     void damagedTableGivesAbsentValues()

@@ -252,6 +252,7 @@ private slots:
         rig.samplers->memory.pressure = 0.3;
         rig.monitor->tick();
         QTRY_COMPARE(w.labels.size(), 4);
+        QTest::qWait(100);
         QCOMPARE(w.newIcons, 4);
 
         QVERIFY(StatusNotifierItem::drawsLabels(u"gnome-shell"_qs));
@@ -279,6 +280,7 @@ private slots:
 
         // ...while a new mood goes at once, with the loads of the moment.
         rig.monitor->offerMood(Moods::soHot(95));
+        // Two signals, two bus messages: the tooltip's may come a moment later.
         QTRY_COMPARE(w.newTitles, 1);
         QTRY_COMPARE(w.newToolTips, 1);
         const QString phrase = loc.t(LocKey::soHot);
