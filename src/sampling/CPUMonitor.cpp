@@ -15,10 +15,8 @@ bool nextNumber(const char *&p, const char *end, quint64 &value)
     const char *start = p;
     quint64 v = 0;
     while (p < end && *p >= '0' && *p <= '9') {
-        const quint64 digit = quint64(*p - '0');
-        if (v > (~quint64(0) - digit) / 10)
+        if (!SysFs::appendDigit(v, *p))
             return false; // more than 64 bits: not a counter
-        v = v * 10 + digit;
         ++p;
     }
     if (p == start || (p < end && *p != ' ' && *p != '\t'))

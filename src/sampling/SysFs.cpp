@@ -81,12 +81,8 @@ std::optional<qint64> readLong(const char *nativePath)
     const quint64 limit = negative ? quint64(1) << 63 : (quint64(1) << 63) - 1;
     quint64 value = 0;
     for (; p < end; ++p) {
-        if (*p < '0' || *p > '9')
-            return std::nullopt;
-        const quint64 digit = quint64(*p - '0');
-        if (value > (limit - digit) / 10)
+        if (*p < '0' || *p > '9' || !appendDigit(value, *p) || value > limit)
             return std::nullopt; // beyond a signed 64-bit number: refused, never wrapped
-        value = value * 10 + digit;
     }
     if (negative)
         return value == quint64(1) << 63 ? std::numeric_limits<qint64>::min() : -qint64(value);
@@ -289,15 +285,10 @@ std::optional<quint64> parseUnsigned(const char *begin, const char *end)
         ++begin;
     if (begin == end)
         return std::nullopt;
-    constexpr quint64 max = std::numeric_limits<quint64>::max();
     quint64 v = 0;
     for (const char *p = begin; p < end; ++p) {
-        if (*p < '0' || *p > '9')
+        if (*p < '0' || *p > '9' || !appendDigit(v, *p))
             return std::nullopt;
-        const quint64 digit = quint64(*p - '0');
-        if (v > (max - digit) / 10)
-            return std::nullopt;
-        v = v * 10 + digit;
     }
     return v;
 }

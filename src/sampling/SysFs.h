@@ -61,6 +61,14 @@ bool exists(const QString &path);
 // link counts even when what it points at is not there).
 bool linkOrFileExists(const QString &path);
 
+// value * 10 + the decimal digit c; false, leaving value undefined, when
+// that takes more than 64 bits. Every decimal parser here grows its numbers
+// through this, so none of them ever wraps.
+inline bool appendDigit(quint64 &value, char c)
+{
+    return !__builtin_mul_overflow(value, 10u, &value) && !__builtin_add_overflow(value, quint64(c - '0'), &value);
+}
+
 // Parses a decimal unsigned integer from [begin, end); nullopt on garbage
 // and on numbers beyond 64 bits.
 std::optional<quint64> parseUnsigned(const char *begin, const char *end);
