@@ -17,6 +17,24 @@ bool blank(char c)
     return c == ' ' || c == '\t' || c == '\n' || c == '\r';
 }
 
+// What parseUnsigned must answer: digits after leading blanks, within 64
+// bits.
+std::optional<quint64> expectedUnsigned(std::string_view text)
+{
+    while (!text.empty() && (text.front() == ' ' || text.front() == '\t'))
+        text.remove_prefix(1);
+    if (text.empty())
+        return std::nullopt;
+    for (const char c : text)
+        if (c < '0' || c > '9')
+            return std::nullopt;
+    quint64 value = 0;
+    const auto [end, ec] = std::from_chars(text.data(), text.data() + text.size(), value);
+    if (ec != std::errc() || end != text.data() + text.size())
+        return std::nullopt;
+    return value;
+}
+
 // What readLong must answer: one decimal number between blanks, a sign
 // allowed, within the signed 64-bit range; nothing for a file of 64 bytes
 // or more.
@@ -33,35 +51,15 @@ std::optional<qint64> expectedLong(std::string_view text)
         negative = text.front() == '-';
         text.remove_prefix(1);
     }
-    if (text.empty())
+    if (text.empty() || blank(text.front()))
         return std::nullopt;
-    for (const char c : text)
-        if (c < '0' || c > '9')
-            return std::nullopt;
-    quint64 magnitude = 0;
-    const auto [end, ec] = std::from_chars(text.data(), text.data() + text.size(), magnitude);
-    if (ec != std::errc() || end != text.data() + text.size())
+    const auto magnitude = expectedUnsigned(text);
+    if (!magnitude)
         return std::nullopt;
     constexpr quint64 top = quint64(1) << 63;
     if (negative)
-        return magnitude <= top ? std::optional<qint64>(qint64(0 - magnitude)) : std::nullopt;
-    return magnitude < top ? std::optional<qint64>(qint64(magnitude)) : std::nullopt;
-}
-
-std::optional<quint64> expectedUnsigned(std::string_view text)
-{
-    while (!text.empty() && (text.front() == ' ' || text.front() == '\t'))
-        text.remove_prefix(1);
-    if (text.empty())
-        return std::nullopt;
-    for (const char c : text)
-        if (c < '0' || c > '9')
-            return std::nullopt;
-    quint64 value = 0;
-    const auto [end, ec] = std::from_chars(text.data(), text.data() + text.size(), value);
-    if (ec != std::errc() || end != text.data() + text.size())
-        return std::nullopt;
-    return value;
+        return *magnitude <= top ? std::optional<qint64>(qint64(0 - *magnitude)) : std::nullopt;
+    return *magnitude < top ? std::optional<qint64>(qint64(*magnitude)) : std::nullopt;
 }
 
 } // namespace
