@@ -13,15 +13,6 @@
 
 class FeedServer : public QObject {
 public:
-    enum class Kind { body, silent, redirect, endless };
-    struct Route {
-        Kind kind = Kind::body;
-        int status = 200;
-        QByteArray body;
-        QByteArray location; // redirect target
-        bool sendLength = true;
-    };
-
     FeedServer()
     {
         connect(&m_server, &QTcpServer::newConnection, this, [this] {
@@ -42,22 +33,12 @@ public:
         return QUrl(QStringLiteral("http://127.0.0.1:%1%2").arg(m_server.serverPort()).arg(path));
     }
 
-    void serve(const QString &path, const QByteArray &body, int status = 200)
-    {
-        Route r;
-        r.body = body;
-        r.status = status;
-        m_routes[path] = r;
-    }
-    void route(const QString &path, const Route &r) { m_routes[path] = r; }
-    void redirect(const QString &path, const QString &to)
-    {
-        Route r;
-        r.kind = Kind::redirect;
-        r.status = 302;
-        r.location = to.toUtf8();
-        m_routes[path] = r;
-    }
+    void serve(const QString &path, const QByteArray &body, int status = 200) { m_routes[path] = {Kind::body, status, body}; }
+    void redirect(const QString &path, const QString &to) { m_routes[path] = {Kind::redirect, 302, to.toUtf8()}; }
+    // Keeps the connection open and never says a word.
+    void silent(const QString &path) { m_routes[path] = {Kind::silent, 200, {}}; }
+    // Streams feed-looking text until the client hangs up.
+    void endless(const QString &path) { m_routes[path] = {Kind::endless, 200, {}}; }
 
     int hits(const QString &path) const { return m_hits.value(path); }
     int totalHits() const
@@ -71,6 +52,13 @@ public:
     qint64 endlessBytesSent() const { return m_endlessSent; }
 
 private:
+    enum class Kind { body, silent, redirect, endless };
+    struct Route {
+        Kind kind = Kind::body;
+        int status = 404;
+        QByteArray data = "<html><body>not here</body></html>"; // the body, or a redirect's target
+    };
+
     void onRead(QTcpSocket *socket)
     {
         // A request on a connection already answered and closing is never
@@ -86,50 +74,26 @@ private:
         buffer.remove(0, end + 4);
         const QString path = requestLine.size() > 1 ? QString::fromUtf8(requestLine[1]) : QString();
         ++m_hits[path];
-        answer(socket, path);
+        answer(socket, m_routes.value(path));
     }
 
-    static QByteArray reason(int status)
+    void answer(QTcpSocket *socket, const Route &r)
     {
-        switch (status) {
-        case 200: return "OK";
-        case 302: return "Found";
-        case 404: return "Not Found";
-        case 500: return "Internal Server Error";
-        default: return "Status";
-        }
-    }
-
-    void answer(QTcpSocket *socket, const QString &path)
-    {
-        const auto it = m_routes.constFind(path);
-        Route r;
-        if (it == m_routes.constEnd()) {
-            r.status = 404;
-            r.body = "<html><body>not here</body></html>";
-        } else {
-            r = *it;
-        }
-        QByteArray head = "HTTP/1.1 " + QByteArray::number(r.status) + ' ' + reason(r.status) + "\r\n";
+        QByteArray head = "HTTP/1.1 " + QByteArray::number(r.status) + " Status\r\n";
         switch (r.kind) {
         case Kind::silent:
-            return; // keeps the connection open and says nothing
+            return;
         case Kind::redirect:
-            head += "Location: " + r.location + "\r\nContent-Length: 0\r\nConnection: close\r\n\r\n";
-            socket->write(head);
+            socket->write(head + "Location: " + r.data + "\r\nContent-Length: 0\r\nConnection: close\r\n\r\n");
             socket->disconnectFromHost();
             return;
         case Kind::endless:
-            head += "Content-Type: application/rss+xml\r\nConnection: close\r\n\r\n";
-            socket->write(head);
+            socket->write(head + "Content-Type: application/rss+xml\r\nConnection: close\r\n\r\n");
             streamForever(socket);
             return;
         case Kind::body:
-            head += "Content-Type: application/rss+xml; charset=utf-8\r\n";
-            if (r.sendLength)
-                head += "Content-Length: " + QByteArray::number(r.body.size()) + "\r\n";
-            head += "Connection: close\r\n\r\n";
-            socket->write(head + r.body);
+            socket->write(head + "Content-Type: application/rss+xml; charset=utf-8\r\nContent-Length: "
+                          + QByteArray::number(r.data.size()) + "\r\nConnection: close\r\n\r\n" + r.data);
             socket->disconnectFromHost();
             return;
         }
@@ -144,9 +108,7 @@ private:
         auto *timer = new QTimer(socket);
         timer->setInterval(1);
         connect(timer, &QTimer::timeout, socket, [this, guard] {
-            if (!guard || guard->state() != QAbstractSocket::ConnectedState)
-                return;
-            if (guard->bytesToWrite() > 256 * 1024)
+            if (!guard || guard->state() != QAbstractSocket::ConnectedState || guard->bytesToWrite() > 256 * 1024)
                 return;
             static const QByteArray chunk = QByteArray("<item><title>padding</title></item>").repeated(1800);
             guard->write(chunk);
