@@ -17,7 +17,7 @@
 #include <thread>
 #include <unistd.h>
 
-class SpecialFilesTest : public QObject {
+class NamedPipeTest : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -69,5 +69,5 @@ private Q_SLOTS:
     }
 };
 
-SULK_TEST(SpecialFilesTest)
-#include "SpecialFilesTest.moc"
+SULK_TEST(NamedPipeTest)
+#include "NamedPipeTest.moc"
