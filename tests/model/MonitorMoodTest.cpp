@@ -15,16 +15,9 @@
 
 namespace {
 
-using MoodSamplers = FakeSamplers;
-
 VolumeInfo volume(const QString &path, double total, double free)
 {
-    VolumeInfo v;
-    v.name = path;
-    v.path = path;
-    v.total = total;
-    v.free = free;
-    return v;
+    return {path, path, total, free};
 }
 
 struct Rig {
@@ -32,7 +25,7 @@ struct Rig {
         : scheduler(start)
     {
     }
-    std::shared_ptr<MoodSamplers> samplers = std::make_shared<MoodSamplers>();
+    std::shared_ptr<FakeSamplers> samplers = std::make_shared<FakeSamplers>();
     ManualScheduler scheduler;
     std::unique_ptr<SystemMonitor> monitor;
 
