@@ -26,51 +26,38 @@ private slots:
     void init() { TestSupport::clearSettings(); }
     void cleanupTestCase() { TestSupport::clearSettings(); }
 
-    void cpuAndMemoryThresholds()
+    void thresholdsAndQuotedFigures()
     {
-        RoastReadings r;
-        r.cpu = 0.55;
-        RoastEvent e = Roasts::event(RoastTopic::cpu, r);
-        QVERIFY(e.notable);
-        QCOMPARE(e.arg, std::optional<QString>(QStringLiteral("55%")));
-        r.cpu = 0.549;
-        e = Roasts::event(RoastTopic::cpu, r);
-        QVERIFY(!e.notable);
-        QCOMPARE(e.arg, std::optional<QString>(QStringLiteral("55%")));
-
-        r.memory = 0.75;
-        QVERIFY(Roasts::event(RoastTopic::memory, r).notable);
-        r.memory = 0.7499;
-        e = Roasts::event(RoastTopic::memory, r);
-        QVERIFY(!e.notable);
-        QCOMPARE(e.topic, RoastTopic::memory);
-        QCOMPARE(e.arg, std::optional<QString>(QStringLiteral("75%")));
-    }
-
-    void networkCountsBothDirections()
-    {
-        RoastReadings r;
-        r.netDown = 2'000'000;
-        r.netUp = 1'000'000;
-        RoastEvent e = Roasts::event(RoastTopic::network, r);
-        QVERIFY(e.notable);
-        QCOMPARE(e.arg, std::optional<QString>(QStringLiteral("2.0 MB/s")));
-        r.netDown = 1'999'999;
-        e = Roasts::event(RoastTopic::network, r);
-        QVERIFY(!e.notable);
-        r.netUp = 2'500'000;
-        QCOMPARE(Roasts::event(RoastTopic::network, r).arg, std::optional<QString>(QStringLiteral("2.5 MB/s")));
-    }
-
-    void diskUsesTheFullestVolume()
-    {
-        RoastReadings r;
-        r.maxDiskUsage = 0.85;
-        RoastEvent e = Roasts::event(RoastTopic::disk, r);
-        QVERIFY(e.notable);
-        QCOMPARE(e.arg, std::optional<QString>(QStringLiteral("85%")));
-        r.maxDiskUsage = 0.8499;
-        QVERIFY(!Roasts::event(RoastTopic::disk, r).notable);
+        // Each topic at its threshold and just below, over a steady 1 MB/s
+        // upload; the figure is quoted either way.
+        struct Case {
+            RoastTopic topic;
+            double RoastReadings::*field;
+            double value;
+            bool notable;
+            QString arg;
+        };
+        const Case cases[] = {
+            {RoastTopic::cpu, &RoastReadings::cpu, 0.55, true, u"55%"_qs},
+            {RoastTopic::cpu, &RoastReadings::cpu, 0.549, false, u"55%"_qs},
+            {RoastTopic::memory, &RoastReadings::memory, 0.75, true, u"75%"_qs},
+            {RoastTopic::memory, &RoastReadings::memory, 0.7499, false, u"75%"_qs},
+            // Both directions count together; the faster one is quoted.
+            {RoastTopic::network, &RoastReadings::netDown, 2e6, true, u"2.0 MB/s"_qs},
+            {RoastTopic::network, &RoastReadings::netDown, 1'999'999, false, u"2.0 MB/s"_qs},
+            {RoastTopic::network, &RoastReadings::netUp, 2.5e6, false, u"2.5 MB/s"_qs},
+            {RoastTopic::disk, &RoastReadings::maxDiskUsage, 0.85, true, u"85%"_qs},
+            {RoastTopic::disk, &RoastReadings::maxDiskUsage, 0.8499, false, u"85%"_qs},
+        };
+        for (const Case &c : cases) {
+            RoastReadings r;
+            r.netUp = 1e6;
+            r.*c.field = c.value;
+            const RoastEvent e = Roasts::event(c.topic, r);
+            QCOMPARE(e.topic, c.topic);
+            QCOMPARE(e.notable, c.notable);
+            QCOMPARE(e.arg, std::optional<QString>(c.arg));
+        }
     }
 
     void sensorsQuoteOnlyAKnownTemperature()
