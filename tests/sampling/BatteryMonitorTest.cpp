@@ -5,7 +5,6 @@
 #include <QTemporaryDir>
 #include <QTest>
 
-#include <filesystem>
 #include <initializer_list>
 #include <utility>
 
@@ -14,23 +13,24 @@ namespace {
 using TestSupport::fixtureRoots;
 
 using Files = std::initializer_list<std::pair<const char *, const char *>>;
+using Supplies = std::initializer_list<std::pair<const char *, Files>>;
 
-// Adds one supply with the given attribute files to a power_supply folder.
-void addSupply(const QTemporaryDir &tmp, const char *name, Files files)
+// The reading over a power_supply folder that holds just these supplies.
+BatterySample readSupplies(Supplies supplies)
 {
-    const QString dir = tmp.path() + QStringLiteral("/sys/class/power_supply/") + QString::fromLatin1(name);
-    std::filesystem::create_directories(dir.toStdString());
-    for (const auto &[file, text] : files) {
-        QFile f(dir + u'/' + QString::fromLatin1(file));
-        QVERIFY(f.open(QIODevice::WriteOnly));
-        f.write(text);
-        f.write("\n");
+    QTemporaryDir tmp;
+    for (const auto &[name, files] : supplies) {
+        const QString dir = tmp.path() + QStringLiteral("/sys/class/power_supply/") + QLatin1StringView(name) + u'/';
+        for (const auto &[file, text] : files)
+            TestSupport::writeFile(dir + QLatin1StringView(file), QByteArray(text) + '\n');
     }
+    return BatteryMonitor(SystemRoots::underPrefix(tmp.path())).read();
 }
 
-BatterySample readTree(const QTemporaryDir &tmp)
+// BAT0 alone.
+BatterySample readBattery(Files files)
 {
-    return BatteryMonitor(SystemRoots::underPrefix(tmp.path())).read();
+    return readSupplies({{"BAT0", files}});
 }
 
 } // namespace
@@ -82,11 +82,10 @@ private slots:
 
     void desktopOnMainsHasNoBattery()
     {
-        QTemporaryDir tmp;
-        addSupply(tmp, "ADP0", {{"type", "Mains"}, {"online", "1"}});
-        addSupply(tmp, "hidpp_battery_1", {{"type", "Battery"}, {"scope", "Device"}, {"capacity", "70"}});
-        addSupply(tmp, "BAT1", {{"type", "Battery"}, {"present", "0"}, {"capacity", "0"}});
-        const BatterySample b = readTree(tmp);
+        const BatterySample b =
+            readSupplies({{"ADP0", {{"type", "Mains"}, {"online", "1"}}},
+                          {"hidpp_battery_1", {{"type", "Battery"}, {"scope", "Device"}, {"capacity", "70"}}},
+                          {"BAT1", {{"type", "Battery"}, {"present", "0"}, {"capacity", "0"}}}});
         QVERIFY(!b.present);
         QVERIFY(b.isPluggedIn);
         QCOMPARE(b.powerSource, BatteryMonitor::acPower);
@@ -98,38 +97,28 @@ private slots:
     {
         // Energy figures with only a current: no estimate, though µWh / µA
         // would give a number.
-        QTemporaryDir a;
-        addSupply(a, "BAT0", {{"type", "Battery"}, {"status", "Discharging"}, {"energy_now", "30000000"},
-                              {"energy_full", "50000000"}, {"current_now", "1000000"}});
-        BatterySample b = readTree(a);
+        BatterySample b = readBattery({{"type", "Battery"}, {"status", "Discharging"}, {"energy_now", "30000000"},
+                                       {"energy_full", "50000000"}, {"current_now", "1000000"}});
         QCOMPARE(b.charge, 0.6);
         QCOMPARE(b.timeToEmpty, -1);
 
         // Both families present: energy with power wins; a signed rate is
         // taken by size.
-        QTemporaryDir c;
-        addSupply(c, "BAT0", {{"type", "Battery"}, {"status", "Discharging"}, {"energy_now", "30000000"},
-                              {"energy_full", "50000000"}, {"power_now", "-10000000"},
-                              {"charge_now", "2000000"}, {"charge_full", "4000000"}, {"current_now", "4000000"}});
-        QCOMPARE(readTree(c).timeToEmpty, 180);
+        QCOMPARE(readBattery({{"type", "Battery"}, {"status", "Discharging"}, {"energy_now", "30000000"},
+                              {"energy_full", "50000000"}, {"power_now", "-10000000"}, {"charge_now", "2000000"},
+                              {"charge_full", "4000000"}, {"current_now", "4000000"}}).timeToEmpty, 180);
 
         // A rate of zero, or one so small the estimate is meaningless.
-        QTemporaryDir z;
-        addSupply(z, "BAT0", {{"type", "Battery"}, {"status", "Discharging"}, {"charge_now", "2000000"},
-                              {"charge_full", "4000000"}, {"current_now", "0"}});
-        QCOMPARE(readTree(z).timeToEmpty, -1);
-        QTemporaryDir t;
-        addSupply(t, "BAT0", {{"type", "Battery"}, {"status", "Discharging"}, {"charge_now", "2000000"},
-                              {"charge_full", "4000000"}, {"current_now", "1"}});
-        QCOMPARE(readTree(t).timeToEmpty, -1);
+        for (const char *rate : {"0", "1"}) {
+            QCOMPARE(readBattery({{"type", "Battery"}, {"status", "Discharging"}, {"charge_now", "2000000"},
+                                  {"charge_full", "4000000"}, {"current_now", rate}}).timeToEmpty, -1);
+        }
     }
 
     void sparseAndDamagedBatteries()
     {
         // Only a capacity percentage: charge, nothing else.
-        QTemporaryDir a;
-        addSupply(a, "BAT0", {{"type", "Battery"}, {"status", "Discharging"}, {"capacity", "55"}});
-        BatterySample b = readTree(a);
+        BatterySample b = readBattery({{"type", "Battery"}, {"status", "Discharging"}, {"capacity", "55"}});
         QVERIFY(b.present);
         QCOMPARE(b.charge, 0.55);
         QCOMPARE(b.timeToEmpty, -1);
@@ -139,11 +128,9 @@ private slots:
 
         // Damaged energy files fall back to charge; a worn-in battery
         // reporting more than its design is capped at full health.
-        QTemporaryDir c;
-        addSupply(c, "BAT0", {{"type", "Battery"}, {"status", "Unknown"}, {"energy_now", "12abc"},
-                              {"energy_full", ""}, {"charge_now", "1000000"}, {"charge_full", "5200000"},
-                              {"charge_full_design", "5000000"}, {"cycle_count", "-1"}});
-        b = readTree(c);
+        b = readBattery({{"type", "Battery"}, {"status", "Unknown"}, {"energy_now", "12abc"}, {"energy_full", ""},
+                         {"charge_now", "1000000"}, {"charge_full", "5200000"}, {"charge_full_design", "5000000"},
+                         {"cycle_count", "-1"}});
         QCOMPARE(b.charge, 1000000.0 / 5200000.0);
         QCOMPARE(b.health, 1.0);
         QCOMPARE(b.maxCapacity, 5200);
@@ -156,12 +143,11 @@ private slots:
     {
         // What a damaged snapshot or a confused driver can hold: counts past
         // 2^31, capacities of exajoules, a battery hotter than the sun.
-        QTemporaryDir a;
-        addSupply(a, "BAT0", {{"type", "Battery"}, {"status", "Discharging"}, {"capacity", "64"},
-                              {"cycle_count", "2147483648"}, {"charge_now", "18446744073709551615"},
-                              {"charge_full", "9223372036854775807"}, {"charge_full_design", "4000000000000000000"},
-                              {"current_now", "500000"}, {"temp", "900000000"}});
-        BatterySample b = readTree(a);
+        BatterySample b = readBattery({{"type", "Battery"}, {"status", "Discharging"}, {"capacity", "64"},
+                                       {"cycle_count", "2147483648"}, {"charge_now", "18446744073709551615"},
+                                       {"charge_full", "9223372036854775807"},
+                                       {"charge_full_design", "4000000000000000000"}, {"current_now", "500000"},
+                                       {"temp", "900000000"}});
         QVERIFY(b.present);
         QCOMPARE(b.cycleCount, 0);
         QCOMPARE(b.charge, 0.64);
@@ -172,11 +158,9 @@ private slots:
         QCOMPARE(b.temperature, 0.0);
 
         // Capacities from energy over a nonsense voltage would overflow.
-        QTemporaryDir e;
-        addSupply(e, "BAT0", {{"type", "Battery"}, {"status", "Charging"}, {"energy_now", "25000000"},
-                              {"energy_full", "50000000"}, {"energy_full_design", "57000000"},
-                              {"voltage_min_design", "1"}, {"cycle_count", "9000000000"}});
-        b = readTree(e);
+        b = readBattery({{"type", "Battery"}, {"status", "Charging"}, {"energy_now", "25000000"},
+                         {"energy_full", "50000000"}, {"energy_full_design", "57000000"}, {"voltage_min_design", "1"},
+                         {"cycle_count", "9000000000"}});
         QCOMPARE(b.charge, 0.5);
         QCOMPARE(b.health, 50.0 / 57.0);
         QCOMPARE(b.designCapacity, 0);
@@ -184,11 +168,8 @@ private slots:
         QCOMPARE(b.cycleCount, 0);
 
         // Plausible figures at the edges still count.
-        QTemporaryDir p;
-        addSupply(p, "BAT0", {{"type", "Battery"}, {"status", "Full"}, {"charge_now", "4000000"},
-                              {"charge_full", "4000000"}, {"charge_full_design", "4000000"},
-                              {"cycle_count", "2500"}, {"temp", "455"}});
-        b = readTree(p);
+        b = readBattery({{"type", "Battery"}, {"status", "Full"}, {"charge_now", "4000000"}, {"charge_full", "4000000"},
+                         {"charge_full_design", "4000000"}, {"cycle_count", "2500"}, {"temp", "455"}});
         QCOMPARE(b.cycleCount, 2500);
         QCOMPARE(b.temperature, 45.5);
         QCOMPARE(b.designCapacity, 4000);
@@ -196,27 +177,22 @@ private slots:
 
     void statusTellsAboutPowerWithoutAMainsSupply()
     {
-        QTemporaryDir a;
-        addSupply(a, "BAT0", {{"type", "Battery"}, {"status", "Full"}, {"capacity", "100"}});
-        BatterySample b = readTree(a);
+        BatterySample b = readBattery({{"type", "Battery"}, {"status", "Full"}, {"capacity", "100"}});
         QVERIFY(b.isPluggedIn);
         QVERIFY(!b.isCharging);
         QCOMPARE(b.powerSource, BatteryMonitor::acPower);
 
         // With a Mains supply present its online flag decides, and an
         // offline USB-C port is not outside power.
-        QTemporaryDir c;
-        addSupply(c, "AC", {{"type", "Mains"}, {"online", "0"}});
-        addSupply(c, "ucsi-source-psy-USBC000:001", {{"type", "USB"}, {"online", "0"}});
-        addSupply(c, "BAT0", {{"type", "Battery"}, {"status", "Not charging"}, {"capacity", "80"}});
-        b = readTree(c);
+        b = readSupplies({{"AC", {{"type", "Mains"}, {"online", "0"}}},
+                          {"ucsi-source-psy-USBC000:001", {{"type", "USB"}, {"online", "0"}}},
+                          {"BAT0", {{"type", "Battery"}, {"status", "Not charging"}, {"capacity", "80"}}}});
         QVERIFY(!b.isPluggedIn);
         QCOMPARE(b.powerSource, BatteryMonitor::batteryPower);
 
-        QTemporaryDir u;
-        addSupply(u, "ucsi-source-psy-USBC000:001", {{"type", "USB"}, {"online", "1"}});
-        addSupply(u, "BAT0", {{"type", "Battery"}, {"status", "Charging"}, {"capacity", "80"}});
-        QVERIFY(readTree(u).isPluggedIn);
+        QVERIFY(readSupplies({{"ucsi-source-psy-USBC000:001", {{"type", "USB"}, {"online", "1"}}},
+                              {"BAT0", {{"type", "Battery"}, {"status", "Charging"}, {"capacity", "80"}}}})
+                    .isPluggedIn);
     }
 };
 

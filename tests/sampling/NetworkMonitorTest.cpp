@@ -27,6 +27,14 @@ struct Counters {
     quint64 tx;
 };
 
+// One reading of a scripted run: seconds since the last one, the counters
+// then (none: the file is left as it was), and what the reading must give.
+struct Step {
+    double seconds;
+    QList<Counters> rows;
+    double down, up, totalIn;
+};
+
 QByteArray devText(const QList<Counters> &rows)
 {
     QByteArray text = "Inter-|   Receive                                                |  Transmit\n"
@@ -66,6 +74,8 @@ struct Rig {
 };
 
 } // namespace
+
+Q_DECLARE_METATYPE(QList<Step>)
 
 class NetworkMonitorTest : public QObject {
     Q_OBJECT
@@ -120,85 +130,58 @@ private Q_SLOTS:
         QCOMPARE(s.upRate, 0.0);
         QCOMPARE(s.primaryInterface, QStringLiteral("wlan0"));
         QCOMPARE(s.ipv4, QStringLiteral("192.168.1.23"));
+
+        // A captured tree has routes but no live address list to match.
+        const NetworkSample snapshot =
+            NetworkMonitor(SystemRoots::underPrefix(TestSupport::fixture("laptop"))).read(true);
+        QCOMPARE(snapshot.primaryInterface, QStringLiteral("wlan0"));
+        QCOMPARE(snapshot.ipv4, QStringLiteral("\u2014"));
+        QCOMPARE(snapshot.totalOut, 1234567890.0);
     }
 
-    void ratesOverTheInterval()
+    void ratesFollowTheCounters_data()
     {
-        Rig rig;
-        QVERIFY(rig.dev({{"lo", 100, 100}, {"wlan0", 4294967000, 5000}, {"docker0", 0, 0}, {"tun0", 0, 0}}));
-        rig.monitor.read(false);
-
-        // Half a second later: 1,000,000 bytes in (across the 4 GiB mark),
-        // 250,000 out. Virtual interfaces moved too and do not count.
-        rig.now += 0.5;
-        QVERIFY(rig.dev({{"lo", 900100, 900100},
-                         {"wlan0", 4295967000, 255000},
-                         {"docker0", 1000000, 1000000},
-                         {"tun0", 1000000, 0}}));
-        NetworkSample s = rig.monitor.read(false);
-        QCOMPARE(s.downRate, 2000000.0);
-        QCOMPARE(s.upRate, 500000.0);
-        QCOMPARE(s.totalIn, 4295967000.0);
-        QCOMPARE(s.totalOut, 255000.0);
-
-        // No time passed: no rate, no division by zero.
-        s = rig.monitor.read(false);
-        QCOMPARE(s.downRate, 0.0);
-        QCOMPARE(s.upRate, 0.0);
-
-        // A long gap gives the average over the gap.
-        rig.now += 100;
-        QVERIFY(rig.dev({{"wlan0", 4296967000, 255000}}));
-        QCOMPARE(rig.monitor.read(false).downRate, 10000.0);
-    }
-
-    void countersThatGoBackwards()
-    {
-        Rig rig;
-        QVERIFY(rig.dev({{"wlan0", 5000000, 5000000}, {"enp0s31f6", 1000, 1000}}));
-        rig.monitor.read(false);
-
-        // wlan0's driver was reloaded and its counters restarted; the Ethernet
-        // port kept counting and still shows.
-        rig.now += 1;
-        QVERIFY(rig.dev({{"wlan0", 1000, 200}, {"enp0s31f6", 3000, 1500}}));
-        NetworkSample s = rig.monitor.read(false);
-        QCOMPARE(s.downRate, 2000.0);
-        QCOMPARE(s.upRate, 500.0);
-        QCOMPARE(s.totalIn, 4000.0);
-
-        // Measured from the lowered counters afterwards.
-        rig.now += 1;
-        QVERIFY(rig.dev({{"wlan0", 6000, 700}, {"enp0s31f6", 3000, 1500}}));
-        s = rig.monitor.read(false);
-        QCOMPARE(s.downRate, 5000.0);
-        QCOMPARE(s.upRate, 500.0);
-    }
-
-    void interfaceThatVanishesAndComesBack()
-    {
-        Rig rig;
-        QVERIFY(rig.dev({{"wlan0", 10000, 10000}, {"enp0s31f6", 900000000, 900000000}}));
-        rig.monitor.read(false);
-
+        QTest::addColumn<QList<Step>>("steps");
+        // Half a second: 1,000,000 bytes in (across the 4 GiB mark) and
+        // 250,000 out; the virtual interfaces moved too and do not count.
+        // No time passed: no rate, no division by zero. A long gap gives the
+        // average over the gap.
+        QTest::newRow("interval") << QList<Step>{
+            {0, {{"lo", 100, 100}, {"wlan0", 4294967000, 5000}, {"docker0", 0, 0}, {"tun0", 0, 0}}, 0, 0, 4294967000},
+            {0.5, {{"lo", 900100, 900100}, {"wlan0", 4295967000, 255000}, {"docker0", 1000000, 1000000},
+                   {"tun0", 1000000, 0}}, 2000000, 500000, 4295967000},
+            {0, {}, 0, 0, 4295967000},
+            {100, {{"wlan0", 4296967000, 255000}}, 10000, 0, 4296967000}};
+        // wlan0's driver was reloaded and its counters restarted; the
+        // Ethernet port kept counting and still shows. Then measured from
+        // the lowered counters.
+        QTest::newRow("counters go back") << QList<Step>{
+            {0, {{"wlan0", 5000000, 5000000}, {"enp0s31f6", 1000, 1000}}, 0, 0, 5001000},
+            {1, {{"wlan0", 1000, 200}, {"enp0s31f6", 3000, 1500}}, 2000, 500, 4000},
+            {1, {{"wlan0", 6000, 700}, {"enp0s31f6", 3000, 1500}}, 5000, 500, 9000}};
         // The USB Ethernet adapter is pulled: its large totals leave the sum,
-        // which must not hide what wlan0 did meanwhile.
-        rig.now += 1;
-        QVERIFY(rig.dev({{"wlan0", 12000, 11000}}));
-        NetworkSample s = rig.monitor.read(false);
-        QCOMPARE(s.downRate, 2000.0);
-        QCOMPARE(s.upRate, 1000.0);
-        QCOMPARE(s.totalIn, 12000.0);
+        // which must not hide what wlan0 did meanwhile. Plugged in again with
+        // its old counters: no burst of 900 MB.
+        QTest::newRow("interface vanishes") << QList<Step>{
+            {0, {{"wlan0", 10000, 10000}, {"enp0s31f6", 900000000, 900000000}}, 0, 0, 900010000},
+            {1, {{"wlan0", 12000, 11000}}, 2000, 1000, 12000},
+            {1, {{"wlan0", 12000, 11000}, {"enp0s31f6", 900000500, 900000000}}, 0, 0, 900012500},
+            {1, {{"wlan0", 12000, 11000}, {"enp0s31f6", 900001500, 900000000}}, 1000, 0, 900013500}};
+    }
 
-        // Plugged in again with its old counters: no burst of 900 MB.
-        rig.now += 1;
-        QVERIFY(rig.dev({{"wlan0", 12000, 11000}, {"enp0s31f6", 900000500, 900000000}}));
-        s = rig.monitor.read(false);
-        QCOMPARE(s.downRate, 0.0);
-        QCOMPARE(s.totalIn, 900012500.0);
-        rig.now += 1;
-        QVERIFY(rig.dev({{"wlan0", 12000, 11000}, {"enp0s31f6", 900001500, 900000000}}));
-        QCOMPARE(rig.monitor.read(false).downRate, 1000.0);
+    void ratesFollowTheCounters()
+    {
+        QFETCH(QList<Step>, steps);
+        Rig rig;
+        for (const Step &step : steps) {
+            rig.now += step.seconds;
+            if (!step.rows.isEmpty())
+                QVERIFY(rig.dev(step.rows));
+            const NetworkSample s = rig.monitor.read(false);
+            QCOMPARE(s.downRate, step.down);
+            QCOMPARE(s.upRate, step.up);
+            QCOMPARE(s.totalIn, step.totalIn);
+        }
     }
 
     void countingChosenInterfaces()
@@ -341,16 +324,6 @@ private Q_SLOTS:
         QCOMPARE(s.ipv4, QStringLiteral("192.168.1.23"));
         QCOMPARE(lookups, 1);
         QCOMPARE(rig.monitor.read(true).primaryInterface, QStringLiteral("enp0s31f6"));
-    }
-
-    void snapshotRootsHaveNoAddresses()
-    {
-        // A captured tree has routes but no live address list to match.
-        NetworkMonitor monitor(SystemRoots::underPrefix(TestSupport::fixture("laptop")));
-        const NetworkSample s = monitor.read(true);
-        QCOMPARE(s.primaryInterface, QStringLiteral("wlan0"));
-        QCOMPARE(s.ipv4, QStringLiteral("\u2014"));
-        QCOMPARE(s.totalOut, 1234567890.0);
     }
 };
 

@@ -12,6 +12,13 @@ namespace {
 using TestSupport::fixtureRoots;
 using TestSupport::writeFile;
 
+// A reading of the sensors under `roots`.
+SensorSample readAt(const SystemRoots &roots)
+{
+    SMC smc(roots);
+    return SensorMonitor(roots, smc).read();
+}
+
 // A writable copy of a fixture tree, for readings that change.
 QString copyOf(const QTemporaryDir &tmp, const QString &name)
 {
@@ -41,16 +48,6 @@ double component(const SensorSample &s, LocKey key)
         if (c.key == key)
             return c.celsius;
     return 0;
-}
-
-FanInfo fan(int index, double current, double min, double max)
-{
-    FanInfo f;
-    f.index = index;
-    f.current = current;
-    f.min = min;
-    f.max = max;
-    return f;
 }
 
 } // namespace
@@ -86,7 +83,7 @@ private slots:
         QCOMPARE(s.components[1].celsius, 41.0);
         QCOMPARE(s.components[2].key, LocKey::compBattery);
         QCOMPARE(s.components[2].celsius, 29.8);
-        QCOMPARE(s.fans, QList<FanInfo>({fan(0, 2760, 0, 0)}));
+        QCOMPARE(s.fans, (QList<FanInfo>{{0, 2760, 0, 0}}));
 
         // The cached layout gives the same reading.
         QCOMPARE(monitor.read(), s);
@@ -94,10 +91,7 @@ private slots:
 
     void amdDesktop()
     {
-        const SystemRoots roots = fixtureRoots(QStringLiteral("amd-desktop"));
-        SMC smc(roots);
-        SensorMonitor monitor(roots, smc);
-        const SensorSample s = monitor.read();
+        const SensorSample s = readAt(fixtureRoots(QStringLiteral("amd-desktop")));
 
         QVERIFY(!names(s).contains(QStringLiteral("nct6775 AUXTIN0"))); // -62 °C
         QCOMPARE(s.cpuTemp, (68.25 + 60.5 + 58.0 + 45.5) / 4); // k10temp and the board's CPUTIN
@@ -105,16 +99,13 @@ private slots:
         QCOMPARE(s.hottest, 70.0);
         QCOMPARE(s.components.size(), 1);
         QCOMPARE(component(s, LocKey::compSSD), 41.85);
-        QCOMPARE(s.fans, QList<FanInfo>({fan(0, 1200, 0, 3300), fan(1, 820, 300, 0),
-                                         fan(2, 1105, 0, 0), fan(3, 640, 200, 2000)}));
+        QCOMPARE(s.fans, (QList<FanInfo>{{0, 1200, 0, 3300}, {1, 820, 300, 0},
+                                         {2, 1105, 0, 0}, {3, 640, 200, 2000}}));
     }
 
     void intelMacTakesFansFromTheSmc()
     {
-        const SystemRoots roots = fixtureRoots(QStringLiteral("intel-mac"));
-        SMC smc(roots);
-        SensorMonitor monitor(roots, smc);
-        const SensorSample s = monitor.read();
+        const SensorSample s = readAt(fixtureRoots(QStringLiteral("intel-mac")));
 
         // applesmc keeps its files on the platform device (hwmon1/device).
         QCOMPARE(celsiusOf(s, QStringLiteral("applesmc TC0P")), 47.5);
@@ -123,7 +114,7 @@ private slots:
         QCOMPARE(component(s, LocKey::compSSD), 36.0);
         QCOMPARE(component(s, LocKey::compWiFi), 44.0);
         QCOMPARE(component(s, LocKey::compBattery), 30.25);
-        QCOMPARE(s.fans, QList<FanInfo>({fan(0, 2000, 1300, 6200), fan(1, 2100, 1300, 6200)}));
+        QCOMPARE(s.fans, (QList<FanInfo>{{0, 2000, 1300, 6200}, {1, 2100, 1300, 6200}}));
     }
 
     void smcStandsInForAMissingCpuFigure()
@@ -139,10 +130,7 @@ private slots:
 
     void thermalZonesWhereHwmonHasNothing()
     {
-        const SystemRoots roots = fixtureRoots(QStringLiteral("arm-board"));
-        SMC smc(roots);
-        SensorMonitor monitor(roots, smc);
-        const SensorSample s = monitor.read();
+        const SensorSample s = readAt(fixtureRoots(QStringLiteral("arm-board")));
         QCOMPARE(names(s), QStringList({QStringLiteral("cpu_thermal"), QStringLiteral("gpu_thermal")}));
         QCOMPARE(s.cpuTemp, 49.0); // the later zone of the same name stands
         QCOMPARE(s.gpuTemp, 45.0);
@@ -158,28 +146,6 @@ private slots:
             QCOMPARE(monitor.read(), SensorSample{});
             QCOMPARE(monitor.read(), SensorSample{});
         }
-    }
-
-    void classes_data()
-    {
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<int>("classes");
-        QTest::newRow("zenpower") << "zenpower Tdie" << int(SensorMonitor::cpuClass);
-        QTest::newRow("Apple PMU") << "PMU tdie1" << int(SensorMonitor::cpuClass);
-        QTest::newRow("nouveau") << "nouveau temp1" << int(SensorMonitor::gpuClass);
-        QTest::newRow("drivetemp") << "drivetemp temp1" << int(SensorMonitor::ssdClass);
-        QTest::newRow("ath11k") << "ath11k_hwmon temp1" << int(SensorMonitor::wifiClass);
-        QTest::newRow("mt7921") << "mt7921_phy0 temp1" << int(SensorMonitor::wifiClass);
-        QTest::newRow("acpitz") << "acpitz temp1" << 0;
-        QTest::newRow("chipset") << "pch_cannonlake temp1" << 0;
-        QTest::newRow("DIMM") << "jc42 temp1" << 0;
-    }
-
-    void classes()
-    {
-        QFETCH(QString, name);
-        QFETCH(int, classes);
-        QCOMPARE(int(SensorMonitor::classify(name)), classes);
     }
 
     void nvidiaTemperatureCountsAsGpu()
@@ -245,11 +211,8 @@ private slots:
         const QString hwmon = root + QStringLiteral("/sys/class/hwmon/");
         writeFile(hwmon + QStringLiteral("hwmon1/fan1_input"), "9223372036854775807\n");
         writeFile(hwmon + QStringLiteral("hwmon2/fan3_max"), "4000000000\n");
-        const SystemRoots roots = SystemRoots::underPrefix(root);
-        SMC smc(roots);
-        SensorMonitor monitor(roots, smc);
-        SensorSample s = monitor.read();
-        QCOMPARE(s.fans, QList<FanInfo>({fan(1, 820, 300, 0), fan(2, 1105, 0, 0), fan(3, 640, 200, 0)}));
+        SensorSample s = readAt(SystemRoots::underPrefix(root));
+        QCOMPARE(s.fans, (QList<FanInfo>{{1, 820, 300, 0}, {2, 1105, 0, 0}, {3, 640, 200, 0}}));
 
         // The controller: such a speed reads as 0, like an unreadable one.
         QTemporaryDir mac;
@@ -257,11 +220,8 @@ private slots:
         const QString key = macRoot + QStringLiteral("/sys/devices/platform/applesmc.768/keys/5/");
         writeFile(key + QStringLiteral("type"), "flt \n");
         writeFile(key + QStringLiteral("data"), QByteArray::fromHex("f9021550")); // 1e10
-        const SystemRoots macRoots = SystemRoots::underPrefix(macRoot);
-        SMC macSmc(macRoots);
-        SensorMonitor macMonitor(macRoots, macSmc);
-        s = macMonitor.read();
-        QCOMPARE(s.fans, QList<FanInfo>({fan(0, 2000, 1300, 6200), fan(1, 0, 1300, 6200)}));
+        s = readAt(SystemRoots::underPrefix(macRoot));
+        QCOMPARE(s.fans, (QList<FanInfo>{{0, 2000, 1300, 6200}, {1, 0, 1300, 6200}}));
     }
 
     void sleepingGraphicsCardIsNotWoken()
@@ -269,10 +229,7 @@ private slots:
         QTemporaryDir tmp;
         const QString root = copyOf(tmp, QStringLiteral("amd-desktop"));
         writeFile(root + QStringLiteral("/sys/class/hwmon/hwmon1/device/power/runtime_status"), "suspended\n");
-        const SystemRoots roots = SystemRoots::underPrefix(root);
-        SMC smc(roots);
-        SensorMonitor monitor(roots, smc);
-        const SensorSample s = monitor.read();
+        const SensorSample s = readAt(SystemRoots::underPrefix(root));
         QCOMPARE(s.gpuTemp, 0.0);
         QVERIFY(!names(s).join(u',').contains(QStringLiteral("amdgpu")));
         QCOMPARE(s.cpuTemp, (68.25 + 60.5 + 58.0 + 45.5) / 4);
