@@ -20,7 +20,6 @@ class FmtTest : public QObject {
         QCOMPARE(Fmt::bytes(0, 1), u"0.0 B"_qs);
         QCOMPARE(Fmt::bytes(999, 0), u"999 B"_qs);
         QCOMPARE(Fmt::bytes(1000, 1), u"1.0 KB"_qs);
-        QCOMPARE(Fmt::bytes(512, 0), u"512 B"_qs);
         QCOMPARE(Fmt::bytes(1234567, 1), u"1.2 MB"_qs);
         QCOMPARE(Fmt::bytes(999999, 0), u"1000 KB"_qs);
         QCOMPARE(Fmt::bytes(1e6, 0), u"1 MB"_qs);
@@ -37,7 +36,6 @@ class FmtTest : public QObject {
         QCOMPARE(Fmt::watts(12.34), u"12.3 W"_qs);
         QCOMPARE(Fmt::minutes(-1), u"\u2014"_qs);
         QCOMPARE(Fmt::minutes(0), u"\u2014"_qs);
-        QCOMPARE(Fmt::minutes(45), u"45m"_qs);
         QCOMPARE(Fmt::minutes(59), u"59m"_qs);
         QCOMPARE(Fmt::minutes(60), u"1h 0m"_qs);
         QCOMPARE(Fmt::minutes(65), u"1h 5m"_qs);
