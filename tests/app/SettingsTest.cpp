@@ -18,26 +18,6 @@ private slots:
     void init() { TestSupport::clearSettings(); }
     void cleanup() { TestSupport::clearSettings(); }
 
-    void defaultsWhenAbsent()
-    {
-        using Settings::Key;
-        QCOMPARE(Settings::number(Key::refreshInterval), 1.0);
-        QCOMPARE(Settings::text(Key::appLanguage), u"system"_qs);
-        QCOMPARE(Settings::flag(Key::useFahrenheit), false);
-        QCOMPARE(Settings::flag(Key::moodEnabled), true);
-        QCOMPARE(Settings::text(Key::petName), QString());
-        QCOMPARE(Settings::flag(Key::savageMode), false);
-        QCOMPARE(Settings::flag(Key::launchAtLogin), false);
-        for (Key k : {Key::showCPU, Key::showMemory, Key::showNetwork, Key::showDisk, Key::showSensors,
-                      Key::showProcesses})
-            QVERIFY(Settings::flag(k));
-        QCOMPARE(Settings::flag(Key::migratedFromLegacyBundleID), false);
-        QCOMPARE(Settings::flag(Key::automaticUpdateChecks), false);
-        QCOMPARE(Settings::text(Key::lastUpdateCheck), QString());
-        QCOMPARE(Settings::text(Key::updateFeedURL), QString());
-        QCOMPARE(Settings::all().size(), 17);
-    }
-
     void startingUpWritesNothing()
     {
         ManualScheduler clock;

@@ -74,23 +74,17 @@ public:
     void write(const Step &s)
     {
         // CPU: 1000 jiffies per interval, spread unevenly over the cores.
-        QByteArray stat;
-        double allBusy = 0;
+        qint64 allBusy = 0, allIdle = 0;
         QByteArray cores;
         for (int c = 0; c < kCores; ++c) {
-            const double share = std::clamp(s.cpu + (c - 3.5) * 0.02, 0.0, 1.0);
-            m_busy[c] += std::llround(share * 1000);
-            m_idle[c] += 1000 - std::llround(share * 1000);
-            allBusy += double(m_busy[c]);
+            const qint64 busy = std::llround(std::clamp(s.cpu + (c - 3.5) * 0.02, 0.0, 1.0) * 1000);
+            allBusy += m_busy[c] += busy;
+            allIdle += m_idle[c] += 1000 - busy;
             cores += "cpu" + QByteArray::number(c) + ' ' + QByteArray::number(m_busy[c]) + " 0 0 "
                 + QByteArray::number(m_idle[c]) + " 0 0 0 0 0 0\n";
         }
-        qint64 allIdle = 0;
-        for (int c = 0; c < kCores; ++c)
-            allIdle += m_idle[c];
-        stat = "cpu  " + QByteArray::number(qint64(allBusy)) + " 0 0 " + QByteArray::number(allIdle)
-            + " 0 0 0 0 0 0\n" + cores + "ctxt 93812437\nbtime 1717400000\nprocs_running 2\n";
-        writeProc("stat", stat);
+        writeProc("stat", "cpu  " + QByteArray::number(allBusy) + " 0 0 " + QByteArray::number(allIdle)
+                              + " 0 0 0 0 0 0\n" + cores + "ctxt 93812437\nbtime 1717400000\nprocs_running 2\n");
 
         const qint64 available = std::llround(kMemTotalKB * (1 - s.memory));
         const qint64 swapTotal = 8LL * 1024 * 1024;

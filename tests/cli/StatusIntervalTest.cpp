@@ -141,18 +141,11 @@ private Q_SLOTS:
                 && near(net.upRate, txBytes / stepSeconds) && disk.hasRate
                 && near(disk.readRate, readSectors * 512 / stepSeconds)
                 && near(disk.writeRate, writtenSectors * 512 / stepSeconds);
-            if (!ok) {
-                misses << QStringLiteral("run %1: cpu %2, down %3, up %4, read %5, write %6")
-                              .arg(run)
-                              .arg(cpu)
-                              .arg(net.downRate)
-                              .arg(net.upRate)
-                              .arg(disk.readRate)
-                              .arg(disk.writeRate);
-            }
+            if (!ok)
+                misses << u"run %1: cpu %2, down %3, up %4, read %5, write %6"_qs.arg(run).arg(cpu).arg(net.downRate)
+                              .arg(net.upRate).arg(disk.readRate).arg(disk.writeRate);
         }
-        QVERIFY2(misses.isEmpty(), qPrintable(QString::number(misses.size()) + QStringLiteral(" of 40 runs off by more than 2 %:\n")
-                                               + misses.join(u'\n')));
+        QVERIFY2(misses.isEmpty(), qPrintable(u"%1 of 40 runs off by more than 2 %:\n"_qs.arg(misses.size()) + misses.join(u'\n')));
     }
 };
 
