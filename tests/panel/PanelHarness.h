@@ -26,17 +26,6 @@
 
 namespace PanelHarness {
 
-// Once per test executable, before any window exists.
-inline void setUpRendering()
-{
-    static bool done = false;
-    if (done)
-        return;
-    done = true;
-    QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
-    QQuickStyle::setStyle(QStringLiteral("Fusion"));
-}
-
 // The panel tests' frame: QML warnings fail the test, the software
 // renderer, and the settings and texts reset around every test. A test class
 // that needs more in cleanup() declares its own and calls this one.
@@ -47,7 +36,10 @@ protected slots:
     void initTestCase()
     {
         QmlWarnings::catchAll();
-        setUpRendering();
+        // Once per test executable, before any window exists.
+        static const bool rendering = (QQuickWindow::setGraphicsApi(QSGRendererInterface::Software),
+                                       QQuickStyle::setStyle(QStringLiteral("Fusion")), true);
+        Q_UNUSED(rendering);
     }
     void init() { TestSupport::resetSettings(); }
     void cleanup()
@@ -145,42 +137,31 @@ struct Panel {
         return items.isEmpty() ? nullptr : qobject_cast<T *>(items.first());
     }
 
-    QList<QQuickItem *> findAll(const QString &name) const
+    QList<QQuickItem *> findAll(const QString &name) const { return collect(root, name); }
+
+    // Every item at or below `item` with that object name.
+    static QList<QQuickItem *> collect(QQuickItem *item, const QString &name)
     {
         QList<QQuickItem *> out;
-        collect(root, name, out);
+        if (item && item->objectName() == name)
+            out << item;
+        for (QQuickItem *child : item ? item->childItems() : QList<QQuickItem *>())
+            out << collect(child, name);
         return out;
     }
 
-    static void collect(QQuickItem *item, const QString &name, QList<QQuickItem *> &out)
-    {
-        if (!item)
-            return;
-        if (item->objectName() == name)
-            out << item;
-        for (QQuickItem *child : item->childItems())
-            collect(child, name, out);
-    }
-
-    QPoint scenePoint(QQuickItem *item, QPointF local) const
-    {
-        return item->mapToScene(local).toPoint();
-    }
+    static QPoint scenePoint(QQuickItem *item, QPointF local) { return item->mapToScene(local).toPoint(); }
 
     void click(QQuickItem *item, QPointF local)
     {
         QTest::mouseClick(window.get(), Qt::LeftButton, {}, scenePoint(item, local));
         settle();
     }
+    void click(QQuickItem *item) { click(item, QPointF(item->width() / 2, item->height() / 2)); }
 
-    void click(QQuickItem *item)
+    void hover(QQuickItem *item, QPointF local)
     {
-        click(item, QPointF(item->width() / 2, item->height() / 2));
-    }
-
-    void hover(QPoint scene)
-    {
-        QTest::mouseMove(window.get(), scene);
+        QTest::mouseMove(window.get(), scenePoint(item, local));
         settle();
     }
 
@@ -200,8 +181,7 @@ struct Panel {
     ~Panel()
     {
         // The view goes before the model it observes.
-        if (root)
-            delete root;
+        delete root;
         window.reset();
         engine.reset();
     }
