@@ -15,9 +15,11 @@ class SystemMonitorAppTest : public QObject {
     QTemporaryDir m_data;
     QByteArray m_oldDataHome, m_oldDataDirs;
 
-    void writeEntry(const QString &id, const QByteArray &body)
+    QString writeEntry(const QString &id, const QByteArray &body)
     {
-        TestSupport::writeFile(m_data.filePath(QStringLiteral("home/applications/") + id), body);
+        const QString path = m_data.filePath(QStringLiteral("home/applications/") + id);
+        TestSupport::writeFile(path, body);
+        return path;
     }
 
 private slots:
@@ -37,8 +39,8 @@ private slots:
 
     void currentDesktopComesFirst()
     {
-        const QStringList kde = SystemMonitorApp::candidateIds(QStringLiteral("KDE"));
-        QCOMPARE(kde.first(), QStringLiteral("org.kde.plasma-systemmonitor.desktop"));
+        QCOMPARE(SystemMonitorApp::candidateIds(QStringLiteral("KDE")).first(),
+                 QStringLiteral("org.kde.plasma-systemmonitor.desktop"));
         // Ubuntu's session names itself before GNOME.
         const QStringList gnome = SystemMonitorApp::candidateIds(QStringLiteral("ubuntu:GNOME"));
         QCOMPARE(gnome.first(), QStringLiteral("org.gnome.SystemMonitor.desktop"));
@@ -49,24 +51,20 @@ private slots:
 
     void execLine()
     {
-        writeEntry(QStringLiteral("a.desktop"),
-                   "[Desktop Entry]\nType=Application\nName=A\n"
-                   "Exec=\"/opt/my monitor/bin/mon\" --tab=\"a \\\"b\\\"\" %U 100%%,x\n");
-        QCOMPARE(SystemMonitorApp::commandOf(m_data.filePath(QStringLiteral("home/applications/a.desktop"))),
+        const QString a = writeEntry(QStringLiteral("a.desktop"),
+                                     "[Desktop Entry]\nType=Application\nName=A\n"
+                                     "Exec=\"/opt/my monitor/bin/mon\" --tab=\"a \\\"b\\\"\" %U 100%%,x\n");
+        QCOMPARE(SystemMonitorApp::commandOf(a),
                  (QStringList{u"/opt/my monitor/bin/mon"_qs, u"--tab=a \"b\""_qs, u"100%,x"_qs}));
 
         // Entries that can't be started: not an application, hidden, a
         // missing TryExec, no Exec at all.
-        writeEntry(QStringLiteral("link.desktop"), "[Desktop Entry]\nType=Link\nURL=http://x\nExec=mon\n");
-        writeEntry(QStringLiteral("hidden.desktop"), "[Desktop Entry]\nType=Application\nHidden=true\nExec=mon\n");
-        writeEntry(QStringLiteral("try.desktop"),
-                   "[Desktop Entry]\nType=Application\nTryExec=/nonexistent/mon\nExec=mon\n");
-        writeEntry(QStringLiteral("noexec.desktop"), "[Desktop Entry]\nType=Application\nName=N\n");
-        for (const char *id : {"link", "hidden", "try", "noexec"})
-            QVERIFY2(SystemMonitorApp::commandOf(
-                         m_data.filePath(QStringLiteral("home/applications/%1.desktop").arg(QLatin1StringView(id))))
-                         .isEmpty(),
-                     id);
+        for (const QByteArray &body : {QByteArray("Type=Link\nURL=http://x\nExec=mon\n"),
+                                       QByteArray("Type=Application\nHidden=true\nExec=mon\n"),
+                                       QByteArray("Type=Application\nTryExec=/nonexistent/mon\nExec=mon\n"),
+                                       QByteArray("Type=Application\nName=N\n")})
+            QVERIFY2(SystemMonitorApp::commandOf(writeEntry(u"x.desktop"_qs, "[Desktop Entry]\n" + body)).isEmpty(),
+                     body.constData());
     }
 
     void startsTheFirstThatExists()
