@@ -108,26 +108,9 @@ private slots:
         QTest::newRow("activityMonitor") << LocKey::activityMonitor
                                          << QStringList{u"系统监视器"_qs, u"系統監視器"_qs, u"システムモニター"_qs,
                                                         u"시스템 모니터"_qs, u"ตัวตรวจสอบระบบ"_qs};
-        QTest::newRow("freedFmt") << LocKey::freedFmt
-                                  << QStringList{u"释放了 %@"_qs, u"釋放了 %@"_qs, u"%@ 解放"_qs, u"%@ 정리됨"_qs,
-                                                 u"เคลียร์ไป %@"_qs};
         QTest::newRow("ofFmt") << LocKey::ofFmt
                                << QStringList{u"%@ / %@"_qs, u"%@ / %@"_qs, u"%@ / %@"_qs, u"%@ / %@"_qs,
                                               u"%@ / %@"_qs};
-        QTest::newRow("stopPoking") << LocKey::stopPoking
-                                    << QStringList{u"别戳啦！"_qs, u"別戳啦！"_qs, u"つつかないで！"_qs,
-                                                   u"그만 찔러!"_qs, u"หยุดจิ้มได้แล้ว!"_qs};
-        QTest::newRow("reasonFromHeat") << LocKey::reasonFromHeat
-                                        << QStringList{u"因为 %@ 高温"_qs, u"因為 %@ 高溫"_qs, u"%@ の高温"_qs,
-                                                       u"%@ 고온"_qs, u"เพราะร้อน %@"_qs};
-        QTest::newRow("reasonIdleNight") << LocKey::reasonIdleNight
-                                         << QStringList{u"空闲 · 深夜"_qs, u"閒置 · 深夜"_qs,
-                                                        u"アイドル · 深夜"_qs, u"유휴 · 늦은 밤"_qs,
-                                                        u"ว่าง · ดึกแล้ว"_qs};
-        QTest::newRow("autoLanguage") << LocKey::autoLanguage
-                                      << QStringList{u"自动（跟随系统）"_qs, u"自動（跟隨系統）"_qs,
-                                                     u"自動（システム）"_qs, u"자동 (시스템)"_qs,
-                                                     u"อัตโนมัติ (ระบบ)"_qs};
     }
 
     void fixedRowsAreVerbatim()

@@ -82,7 +82,6 @@ private slots:
         QTest::addColumn<bool>("nextIsSlow");
         QTest::newRow("1") << 1 << false;
         QTest::newRow("2") << 2 << true; // reaches 3 on that tick
-        QTest::newRow("3") << 3 << true;
         QTest::newRow("8") << 8 << true;
     }
 

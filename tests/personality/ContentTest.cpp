@@ -131,16 +131,6 @@ private slots:
                  QStringLiteral("A bit of a workout right now."));
     }
 
-    void roastWithoutArgumentSkipsPlaceholderLines()
-    {
-        // The notable sensors list has one "%@" line; without a reading it
-        // must never be picked.
-        for (int seed = 0; seed < 12; ++seed) {
-            const QString line = Roasts::line(RoastTopic::sensors, true, true, AppLanguage::en, std::nullopt, seed);
-            QVERIFY2(!line.contains(QStringLiteral("%@")), qPrintable(line));
-        }
-    }
-
     void roastLookupFallsBack()
     {
         Roasts::Pools pools;
