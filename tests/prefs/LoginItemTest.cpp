@@ -125,31 +125,16 @@ private slots:
 
         // The Exec line reads back as the launcher's absolute path, by the
         // rules a session manager uses: unescape the value, then the quotes.
-        QString exec;
-        for (const QByteArray &line : text.split('\n'))
-            if (line.startsWith("Exec="))
-                exec = QString::fromUtf8(line.mid(5));
-        QString value;
+        const QString exec = QString::fromUtf8(text.mid(text.indexOf("\nExec=") + 6).split('\n').first());
+        QString value, argument;
         for (qsizetype i = 0; i < exec.size(); ++i) {
-            if (exec[i] == u'\\' && i + 1 < exec.size()) {
-                const QChar n = exec[++i];
-                value += n == u's' ? u' ' : n == u'n' ? u'\n' : n == u't' ? u'\t' : n;
-            } else {
-                value += exec[i];
-            }
+            const QChar n = exec[i] == u'\\' && i + 1 < exec.size() ? exec[++i] : QChar();
+            value += n.isNull() ? exec[i] : n == u's' ? u' ' : n == u'n' ? u'\n' : n == u't' ? u'\t' : n;
         }
         value.replace(u"%%"_qs, u"%"_qs);
-        QString argument;
-        if (value.startsWith(u'"')) {
-            QVERIFY(value.endsWith(u'"'));
-            for (qsizetype i = 1; i + 1 < value.size(); ++i) {
-                if (value[i] == u'\\')
-                    ++i;
-                argument += value[i];
-            }
-        } else {
-            argument = value;
-        }
+        const bool quoted = value.startsWith(u'"') && value.endsWith(u'"') && value.size() > 1;
+        for (qsizetype i = quoted; i < value.size() - quoted; ++i)
+            argument += value[quoted && value[i] == u'\\' ? ++i : i];
         QCOMPARE(argument, launcher);
 
         LoginItem::set(false);

@@ -67,30 +67,22 @@ QList<SniPixmap> pixmaps(FakeWatcher &w, const Rig &rig)
     return fromBus<QList<SniPixmap>>(w.itemProperty(rig.service(), u"IconPixmap"_qs));
 }
 
-// The pixel at (x, y) as the bus carries it: A, R, G, B bytes.
-std::array<int, 4> argbAt(const SniPixmap &p, int x, int y)
-{
-    const auto *d = reinterpret_cast<const uchar *>(p.argb.constData()) + (y * p.width + x) * 4;
-    return {d[0], d[1], d[2], d[3]};
-}
-
 // How many pixels are opaque, and how many of those are strongly coloured
-// in the given channel (1 red, 2 green, 3 blue) against the other two.
+// in the given channel (1 red, 2 green, 3 blue) against the other two. The
+// bus carries each pixel as A, R, G, B bytes.
 std::pair<int, int> opaqueAndTinted(const SniPixmap &p, int channel)
 {
     int opaque = 0, tinted = 0;
-    for (int y = 0; y < p.height; ++y)
-        for (int x = 0; x < p.width; ++x) {
-            const auto px = argbAt(p, x, y);
-            if (px[0] < 250)
-                continue;
-            ++opaque;
-            bool dominant = true;
-            for (int c = 1; c <= 3; ++c)
-                if (c != channel && px[channel] < px[c] + 40)
-                    dominant = false;
-            tinted += dominant;
-        }
+    const auto *px = reinterpret_cast<const uchar *>(p.argb.constData());
+    for (qsizetype i = 0; i + 3 < p.argb.size(); i += 4) {
+        if (px[i] < 250)
+            continue;
+        ++opaque;
+        bool dominant = true;
+        for (int c = 1; c <= 3; ++c)
+            dominant = dominant && (c == channel || px[i + channel] >= px[i + c] + 40);
+        tinted += dominant;
+    }
     return {opaque, tinted};
 }
 
