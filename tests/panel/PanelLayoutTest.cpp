@@ -259,17 +259,16 @@ private slots:
             QQuickItem *title = PanelHarness::itemsOfClass(header, "QQuickText").first();
             return title->property("color").value<QColor>().lightnessF();
         };
-        QPalette dark;
-        dark.setColor(QPalette::Window, QColor(0x24, 0x24, 0x24));
-        dark.setColor(QPalette::WindowText, QColor(0xf2, 0xf2, 0xf2));
-        QPalette light;
-        light.setColor(QPalette::Window, QColor(0xf6, 0xf5, 0xf4));
-        light.setColor(QPalette::WindowText, QColor(0x1e, 0x1e, 0x1e));
-        QGuiApplication::setPalette(light);
-        p.settle();
+        const auto usePalette = [&](QColor window, QColor text) {
+            QPalette palette;
+            palette.setColor(QPalette::Window, window);
+            palette.setColor(QPalette::WindowText, text);
+            QGuiApplication::setPalette(palette);
+            p.settle();
+        };
+        usePalette(QColor(0xf6, 0xf5, 0xf4), QColor(0x1e, 0x1e, 0x1e));
         QVERIFY(lightness() < 0.3);
-        QGuiApplication::setPalette(dark);
-        p.settle();
+        usePalette(QColor(0x24, 0x24, 0x24), QColor(0xf2, 0xf2, 0xf2));
         QVERIFY(lightness() > 0.7);
     }
 };
