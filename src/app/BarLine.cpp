@@ -95,7 +95,7 @@ quint64 rateKey(double bytesPerSecond)
 
 QByteArray rateText(double bytesPerSecond)
 {
-    return escaped(QString(Fmt::bytes(bytesPerSecond, 1) + QStringLiteral("/s")));
+    return escaped(Fmt::rate(bytesPerSecond));
 }
 
 } // namespace
@@ -133,6 +133,8 @@ bool BarLine::updateMood(const Mood &shown)
         && shown.tint() == m_mood->tint())
         return false;
     m_mood = shown;
+    if (m_format != Format::plain && language != m_language)
+        m_memoryWord = escaped(m_loc.t(LocKey::memory));
     m_language = language;
     if (m_format == Format::plain)
         return true;
@@ -141,7 +143,6 @@ bool BarLine::updateMood(const Mood &shown)
     m_colorJson = quoted(shown.tintName());
     m_phraseReasonJson = escaped(QString(MenuBarLabel::phrase(shown, m_loc) + u'\n'
                                          + MenuBarLabel::reason(shown, m_loc) + u'\n'));
-    m_memoryWord = escaped(m_loc.t(LocKey::memory));
     return true;
 }
 
@@ -153,15 +154,19 @@ bool BarLine::updateFigures(const SystemMonitor &monitor, bool numbers, bool hea
     const double memory = monitor.memory().pressure;
     const quint64 cpuKey = percentKey(cpu);
     const quint64 memKey = percentKey(memory);
+    // The figures' own texts appear in the waybar tooltip only; the label
+    // makes its own.
     bool changed = !m_haveFigures;
-    if (changed || cpuKey != m_cpuKey) {
+    if (!m_haveFigures || cpuKey != m_cpuKey) {
         m_cpuKey = cpuKey;
-        m_cpuText = escaped(Fmt::percent(cpu, 0));
+        if (headline)
+            m_cpuText = escaped(Fmt::percent(cpu, 0));
         changed = true;
     }
-    if (changed || memKey != m_memKey) {
+    if (!m_haveFigures || memKey != m_memKey) {
         m_memKey = memKey;
-        m_memText = escaped(Fmt::percent(memory, 0));
+        if (headline)
+            m_memText = escaped(Fmt::percent(memory, 0));
         changed = true;
     }
     if (headline) {

@@ -16,11 +16,6 @@ namespace {
 
 const QString sep = QStringLiteral(" · ");
 
-QString rate(double bytesPerSecond)
-{
-    return Fmt::bytes(bytesPerSecond, 1) + QStringLiteral("/s");
-}
-
 // A module's line before its label is padded.
 struct Row {
     QString label;
@@ -72,8 +67,8 @@ Row memoryLine(const SystemMonitor &m, const Localizer &loc)
 Row networkLine(const SystemMonitor &m, const Localizer &loc)
 {
     const NetworkSample &n = m.network();
-    QStringList parts{loc.t(LocKey::download) + u' ' + rate(n.downRate),
-                      loc.t(LocKey::upload) + u' ' + rate(n.upRate)};
+    QStringList parts{loc.t(LocKey::download) + u' ' + Fmt::rate(n.downRate),
+                      loc.t(LocKey::upload) + u' ' + Fmt::rate(n.upRate)};
     if (n.primaryInterface != Records::unknownText)
         parts.append(n.primaryInterface + u' ' + n.ipv4);
     return row(loc.t(LocKey::network), parts);
@@ -86,8 +81,8 @@ Row diskLine(const SystemMonitor &m, const Localizer &loc)
     for (const VolumeInfo &v : d.volumes.mid(0, 3))
         parts.append(v.name + u' ' + Fmt::percent(v.usedShare(), 0) + u' ' + loc.t(LocKey::freeFmt, {Fmt::bytes(v.free, 1)}));
     if (d.hasRate) {
-        parts.append(loc.t(LocKey::read) + u' ' + rate(d.readRate));
-        parts.append(loc.t(LocKey::write) + u' ' + rate(d.writeRate));
+        parts.append(loc.t(LocKey::read) + u' ' + Fmt::rate(d.readRate));
+        parts.append(loc.t(LocKey::write) + u' ' + Fmt::rate(d.writeRate));
     }
     if (parts.isEmpty())
         parts.append(Records::unknownText);

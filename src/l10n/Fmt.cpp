@@ -107,6 +107,11 @@ QString bytes(double v, int decimals)
     return fixed(scaled, decimals) + u' ' + QLatin1String(units[unit]);
 }
 
+QString rate(double bytesPerSecond, int decimals)
+{
+    return bytes(bytesPerSecond, decimals) + QStringLiteral("/s");
+}
+
 QString percent(double v, int decimals)
 {
     return fixed(v * 100, decimals) + u'%';

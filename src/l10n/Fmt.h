@@ -8,6 +8,8 @@ namespace Fmt {
 
 // Base-1000 units B, KB, MB, GB, TB, PB; the unit is chosen before rounding.
 QString bytes(double v, int decimals);
+// Bytes per second: bytes with the given decimals, then "/s".
+QString rate(double bytesPerSecond, int decimals = 1);
 // A fraction 0..1 as a percentage, not clamped.
 QString percent(double v, int decimals);
 // Below 1 W in milliwatts, else watts with one decimal.

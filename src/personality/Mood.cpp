@@ -91,7 +91,6 @@ Mood make(const QString &emoji, LocKey phrase, LocKey reason, MoodKind kind, Tin
 }
 
 QString pct(double fraction) { return Fmt::percent(fraction, 0); }
-QString rate(double bytesPerSecond) { return Fmt::bytes(bytesPerSecond, 1) + QStringLiteral("/s"); }
 
 const QString faceExhale = QStringLiteral("\U0001F62E\u200D\U0001F4A8"); // 😮‍💨
 const QString faceRelieved = QStringLiteral("\U0001F60C");              // 😌
@@ -148,19 +147,19 @@ Mood workingHard(double cpu)
 Mood dataFeast(double downRate)
 {
     return make(QStringLiteral("\U0001F929"), LocKey::dataFeast, LocKey::reasonFromDown, MoodKind::network,
-                Tint::blue, rate(downRate));
+                Tint::blue, Fmt::rate(downRate));
 }
 
 Mood gobblingData(double downRate)
 {
     return make(QStringLiteral("\U0001F924"), LocKey::gobblingData, LocKey::reasonFromDown, MoodKind::network,
-                Tint::blue, rate(downRate));
+                Tint::blue, Fmt::rate(downRate));
 }
 
 Mood beamingUp(double upRate)
 {
     return make(QStringLiteral("\U0001F619"), LocKey::beamingUp, LocKey::reasonFromUp, MoodKind::network,
-                Tint::green, rate(upRate));
+                Tint::green, Fmt::rate(upRate));
 }
 
 Mood warmingUp(double celsius)

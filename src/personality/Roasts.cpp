@@ -82,7 +82,7 @@ RoastEvent event(RoastTopic topic, const RoastReadings &r)
         break;
     case RoastTopic::network:
         ev.notable = r.netDown + r.netUp >= 3'000'000.0;
-        ev.arg = Fmt::bytes(std::max(r.netDown, r.netUp), 1) + QStringLiteral("/s");
+        ev.arg = Fmt::rate(std::max(r.netDown, r.netUp));
         break;
     case RoastTopic::disk:
         ev.notable = r.maxDiskUsage >= 0.85;

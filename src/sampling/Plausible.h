@@ -22,6 +22,11 @@ inline bool fanRpm(double rpm)
 {
     return rpm >= 0 && rpm <= maxFanRpm;
 }
+// A fan speed as shown: an implausible one reads as no reading, 0 rpm.
+inline double fanRpmOrZero(double rpm)
+{
+    return fanRpm(rpm) ? rpm : 0.0;
+}
 
 // Power drawn by one package, RAPL domain or graphics board, watts. The
 // largest of them stay well below a kilowatt.

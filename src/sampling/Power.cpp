@@ -90,7 +90,7 @@ double PowerMeter::boardWatts(const std::vector<nvml::NvmlReading> &nvidia, doub
         if (SysFs::readLine(board.runtimeStatus) == "suspended"_L1)
             continue;
         const std::optional<qint64> microwatts = SysFs::readLong(board.power);
-        if (microwatts && *microwatts > 0 && Plausible::watts(double(*microwatts) / 1e6))
+        if (microwatts && Plausible::watts(double(*microwatts) / 1e6))
             watts += double(*microwatts) / 1e6;
     }
     return watts;

@@ -504,8 +504,7 @@ QList<FanInfo> SMC::fans()
     // is not there, whatever the count says.
     const int count = int(std::min(std::trunc(*n), double(maxFans)));
     const auto speed = [this](const QString &key) {
-        const std::optional<double> rpm = readValue(key);
-        return rpm && Plausible::fanRpm(*rpm) ? *rpm : 0.0;
+        return Plausible::fanRpmOrZero(readValue(key).value_or(0.0));
     };
     for (int i = 0; i < count; ++i) {
         const QString prefix = u'F' + QString::number(i);

@@ -155,8 +155,7 @@ void SensorMonitor::discover()
             } else if (const int f = SysFs::indexedName(file, QLatin1StringView("fan"), QLatin1StringView("_input")); f >= 0) {
                 const QString prefix = base + QStringLiteral("/fan%1_").arg(f);
                 const auto limit = [&prefix](QLatin1StringView which) {
-                    const double rpm = double(SysFs::readLong(prefix + which).value_or(0));
-                    return Plausible::fanRpm(rpm) ? rpm : 0.0;
+                    return Plausible::fanRpmOrZero(double(SysFs::readLong(prefix + which).value_or(0)));
                 };
                 m_fans.append({SysFs::native(base + u'/' + file), limit("min"_L1), limit("max"_L1), status});
             }

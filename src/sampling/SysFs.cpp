@@ -75,18 +75,17 @@ std::optional<qint64> readLong(const char *nativePath)
         negative = *p == '-';
         ++p;
     }
-    if (p == end)
+    if (p == end || isBlank(*p)) // no blank between the sign and the digits
         return std::nullopt;
-    // The magnitude may reach 2^63 only for the most negative value.
+    // The magnitude may reach 2^63 only for the most negative value; beyond
+    // a signed 64-bit number it is refused, never wrapped.
     const quint64 limit = negative ? quint64(1) << 63 : (quint64(1) << 63) - 1;
-    quint64 value = 0;
-    for (; p < end; ++p) {
-        if (*p < '0' || *p > '9' || !appendDigit(value, *p) || value > limit)
-            return std::nullopt; // beyond a signed 64-bit number: refused, never wrapped
-    }
+    const std::optional<quint64> value = parseUnsigned(p, end);
+    if (!value || *value > limit)
+        return std::nullopt;
     if (negative)
-        return value == quint64(1) << 63 ? std::numeric_limits<qint64>::min() : -qint64(value);
-    return qint64(value);
+        return *value == quint64(1) << 63 ? std::numeric_limits<qint64>::min() : -qint64(*value);
+    return qint64(*value);
 }
 
 std::optional<qint64> readLong(const QString &path)

@@ -6,7 +6,7 @@
 #include <cmath>
 
 QString QmlFormat::bytes(double v, int decimals) const { return Fmt::bytes(v, decimals); }
-QString QmlFormat::rate(double v, int decimals) const { return Fmt::bytes(v, decimals) + QStringLiteral("/s"); }
+QString QmlFormat::rate(double v, int decimals) const { return Fmt::rate(v, decimals); }
 QString QmlFormat::percent(double v, int decimals) const { return Fmt::percent(v, decimals); }
 QString QmlFormat::watts(double v) const { return Fmt::watts(v); }
 QString QmlFormat::minutes(int m) const { return Fmt::minutes(m); }

@@ -1,5 +1,7 @@
 #include "ui/panel/BannerModel.h"
 
+#include "ui/MenuBarLabel.h"
+
 #include "l10n/Localizer.h"
 #include "model/SystemMonitor.h"
 #include "personality/PokeTracker.h"
@@ -63,7 +65,7 @@ void BannerModel::roastEventChanged()
     emit contentChanged();
 }
 
-Mood BannerModel::shownMood() const
+const Mood &BannerModel::shownMood() const
 {
     return m_monitor ? m_monitor->reactionOrMood() : Mood::placeholder();
 }
@@ -83,15 +85,12 @@ QString BannerModel::nameLine() const
 
 QString BannerModel::phrase() const
 {
-    return Localizer::shared().t(shownMood().phraseKey());
+    return MenuBarLabel::phrase(shownMood(), Localizer::shared());
 }
 
 QString BannerModel::reason() const
 {
-    const Mood mood = shownMood();
-    if (mood.reasonArg())
-        return Localizer::shared().t(mood.reasonKey(), {*mood.reasonArg()});
-    return Localizer::shared().t(mood.reasonKey());
+    return MenuBarLabel::reason(shownMood(), Localizer::shared());
 }
 
 QColor BannerModel::tint() const

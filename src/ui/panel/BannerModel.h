@@ -40,7 +40,7 @@ public:
     void setMonitor(SystemMonitor *monitor);
 
     // The mood on show: the reaction while one is set, else the mood.
-    Mood shownMood() const;
+    const Mood &shownMood() const;
     QString face() const;
     QString nameLine() const;
     QString phrase() const;

@@ -43,14 +43,16 @@ Texts texts(const SystemMonitor &monitor, const Localizer &loc, bool moodEnabled
     const Mood &shown = monitor.reactionOrMood();
     const QString cpu = Fmt::fixed(monitor.cpu().total * 100, 0);
     const QString memory = Fmt::fixed(monitor.memory().pressure * 100, 0);
+    const QString cpuPercent = cpu + u'%';
+    const QString memoryPercent = memory + u'%';
+    static const QString widestLoads = Fmt::percent(1, 0) + QStringLiteral("  ") + Fmt::percent(1, 0);
 
     Texts t;
-    t.label = MenuBarLabel::text(monitor, loc, moodEnabled);
-    t.guide = moodEnabled ? t.label : Fmt::percent(1, 0) + QStringLiteral("  ") + Fmt::percent(1, 0);
-    t.moodLine = shown.emoji() + u' ' + MenuBarLabel::phrase(shown, loc);
+    t.moodLine = MenuBarLabel::text(monitor, loc, true);
+    t.label = moodEnabled ? t.moodLine : MenuBarLabel::text(monitor, loc, false);
+    t.guide = moodEnabled ? t.label : widestLoads;
     t.reasonLine = MenuBarLabel::reason(shown, loc);
-    t.loadsLine = QStringLiteral("CPU ") + Fmt::percent(monitor.cpu().total, 0) + dot + loc.t(LocKey::memory) + u' '
-        + Fmt::percent(monitor.memory().pressure, 0);
+    t.loadsLine = QStringLiteral("CPU ") + cpuPercent + dot + loc.t(LocKey::memory) + u' ' + memoryPercent;
     t.iconKey = moodEnabled ? emojiPrefix + shown.emoji() : loadsPrefix + cpu + u':' + memory;
     return t;
 }
