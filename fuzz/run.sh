@@ -37,13 +37,10 @@ fi
 mkdir -p "$build/findings" "$build/logs"
 
 run_one() {
-    local name=$1 seconds=$2 build=$3 limits=
+    local name=$1 seconds=$2 build=$3
     mkdir -p "$build/corpus/$name"
-    # A settings value may declare any length; one that cannot be had is
-    # Qt's to refuse (see fuzz/settings.cpp), not a finding.
-    [[ $name == settings ]] && limits=-malloc_limit_mb=1048576
     # shellcheck disable=SC2086
-    "$build/fuzz/fuzz_$name" -max_total_time="$seconds" -timeout=10 -rss_limit_mb=2048 $limits -print_final_stats=1 \
+    "$build/fuzz/fuzz_$name" -max_total_time="$seconds" -timeout=10 -rss_limit_mb=2048 -print_final_stats=1 \
         -artifact_prefix="$build/findings/$name-" ${FUZZ_FLAGS:-} \
         "$build/corpus/$name" "fuzz/corpus/$name" >"$build/logs/$name.log" 2>&1 || true
 }
@@ -53,6 +50,7 @@ before=$(find "$build/findings" -type f | wc -l)
 printf '%s\n' "${harnesses[@]}" | xargs -P "$jobs" -I{} bash -c 'run_one "$@"' _ {} "$seconds" "$build"
 
 status=0
+failed=()
 printf '%-12s %12s %10s %8s %9s  %s\n' harness runs exec/s cov corpus findings
 for name in "${harnesses[@]}"; do
     log=$build/logs/$name.log
@@ -63,9 +61,22 @@ for name in "${harnesses[@]}"; do
     found=$(find "$build/findings" -type f -name "$name-*" | wc -l)
     if grep -q -E '^==[0-9]+==ERROR|runtime error|a reader broke its promise|ERROR: libFuzzer' "$log"; then
         found="$found (see $log)"
+        failed+=("$name")
         status=1
     fi
     printf '%-12s %12s %10s %8s %9s  %s\n' "$name" "$runs" "$speed" "$cov" "$corpus" "$found"
+done
+# What broke, where a CI log shows only this script's output.
+for name in "${failed[@]}"; do
+    log=$build/logs/$name.log
+    echo "== $name"
+    grep -m1 -A30 -E '^==[0-9]+==ERROR|runtime error|a reader broke its promise|ERROR: libFuzzer' "$log" |
+        grep -v -E '^ *#[0-9]+ .* in (fuzzer::|__sanitizer|__asan|__libc_start|main |_start)' | head -24
+    for finding in "$build/findings/$name"-*; do
+        [[ -f $finding ]] || continue
+        echo "-- $finding"
+        head -c 512 "$finding" | od -A d -c | head -16
+    done
 done
 after=$(find "$build/findings" -type f | wc -l)
 ((after == before)) || status=1
