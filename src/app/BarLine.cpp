@@ -201,9 +201,9 @@ const QByteArray &BarLine::next(const SystemMonitor &monitor)
 
     const bool labelChanged = modeChanged || (moodEnabled ? moodChanged : figuresChanged);
     if (labelChanged) {
+        // Plain lines carry the label as it stands, the others as JSON.
         const QString label = MenuBarLabel::text(monitor, m_loc, moodEnabled);
-        m_label = label.toUtf8();
-        m_labelJson = quoted(label);
+        m_label = m_format == Format::plain ? label.toUtf8() : quoted(label);
     }
     // The first i3bar line has no comma before it; the second needs one
     // even when nothing else changed.
@@ -226,7 +226,7 @@ void BarLine::build()
         m_line.append("{\"alt\":").append(m_kindJson);
         m_line.append(",\"class\":").append(m_kindJson);
         m_line.append(",\"percentage\":").append(QByteArray::number(m_percentage));
-        m_line.append(",\"text\":").append(m_labelJson);
+        m_line.append(",\"text\":").append(m_label);
         m_line.append(",\"tooltip\":\"").append(m_phraseReasonJson);
         m_line.append("CPU ").append(m_cpuText);
         m_line.append(" \xc2\xb7 ").append(m_memoryWord).append(' ').append(m_memText);
@@ -238,7 +238,7 @@ void BarLine::build()
         if (!m_first)
             m_line.append(',');
         m_line.append("[{\"color\":").append(m_colorJson);
-        m_line.append(",\"full_text\":").append(m_labelJson);
+        m_line.append(",\"full_text\":").append(m_label);
         m_line.append(",\"name\":\"sulkbox\",\"short_text\":").append(m_emojiJson);
         m_line.append("}]");
         break;

@@ -62,9 +62,9 @@ private:
     QByteArray m_colorJson;
     QByteArray m_memoryWord; // UTF-8
 
-    // The label as the top bar shows it, UTF-8 and as a JSON string.
+    // The label as the top bar shows it: UTF-8 in plain lines, a JSON string
+    // in the others.
     QByteArray m_label;
-    QByteArray m_labelJson;
 
     // The figures, by the keys that decide their texts.
     quint64 m_cpuKey = 0;

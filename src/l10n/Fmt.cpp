@@ -58,19 +58,19 @@ bool smallFixed(double v, int decimals, char *out, qsizetype &length)
     return true;
 }
 
-} // namespace
-
-namespace Fmt {
-
-QString fixed(double v, int decimals)
+// `v` as fixed() writes it with `suffix` after it, made in one allocation.
+QString fixedThen(double v, int decimals, QLatin1StringView suffix)
 {
     if (!std::isfinite(v))
         v = 0;
     decimals = std::max(decimals, 0);
+    // smallFixed writes at most a sign, 16 digits, the point and 6 decimals.
     char quick[48];
     qsizetype quickLength = 0;
-    if (smallFixed(v, decimals, quick, quickLength))
-        return QString::fromLatin1(quick, quickLength);
+    if (suffix.size() <= 16 && smallFixed(v, decimals, quick, quickLength)) {
+        std::copy(suffix.begin(), suffix.end(), quick + quickLength);
+        return QString::fromLatin1(quick, quickLength + suffix.size());
+    }
     // to_chars is locale-independent and rounds exactly like printf. Room for
     // the sign, the 309 integer digits of the largest double, the point and
     // every decimal asked for; on the stack for the usual few decimals.
@@ -85,13 +85,18 @@ QString fixed(double v, int decimals)
     }
     const auto res = std::to_chars(buf, buf + size, v, std::chars_format::fixed, decimals);
     if (res.ec != std::errc())
-        return QStringLiteral("0");
-    return QString::fromLatin1(buf, qsizetype(res.ptr - buf));
+        return u'0' + QString(suffix);
+    return QString::fromLatin1(buf, qsizetype(res.ptr - buf)) + suffix;
 }
 
-QString bytes(double v, int decimals)
+QString bytesThen(double v, int decimals, bool perSecond)
 {
-    static const char *const units[] = {"B", "KB", "MB", "GB", "TB", "PB"};
+    static constexpr QLatin1StringView units[] = {
+        QLatin1StringView(" B"), QLatin1StringView(" KB"), QLatin1StringView(" MB"),
+        QLatin1StringView(" GB"), QLatin1StringView(" TB"), QLatin1StringView(" PB")};
+    static constexpr QLatin1StringView rates[] = {
+        QLatin1StringView(" B/s"), QLatin1StringView(" KB/s"), QLatin1StringView(" MB/s"),
+        QLatin1StringView(" GB/s"), QLatin1StringView(" TB/s"), QLatin1StringView(" PB/s")};
     if (!std::isfinite(v))
         v = 0;
     int unit = 0;
@@ -104,17 +109,31 @@ QString bytes(double v, int decimals)
             ++unit;
         }
     }
-    return fixed(scaled, decimals) + u' ' + QLatin1String(units[unit]);
+    return fixedThen(scaled, decimals, perSecond ? rates[unit] : units[unit]);
+}
+
+} // namespace
+
+namespace Fmt {
+
+QString fixed(double v, int decimals)
+{
+    return fixedThen(v, decimals, {});
+}
+
+QString bytes(double v, int decimals)
+{
+    return bytesThen(v, decimals, false);
 }
 
 QString rate(double bytesPerSecond, int decimals)
 {
-    return bytes(bytesPerSecond, decimals) + QStringLiteral("/s");
+    return bytesThen(bytesPerSecond, decimals, true);
 }
 
 QString percent(double v, int decimals)
 {
-    return fixed(v * 100, decimals) + u'%';
+    return fixedThen(v * 100, decimals, QLatin1StringView("%"));
 }
 
 QString watts(double v)
