@@ -29,13 +29,21 @@ QByteArray statText(const QList<Cpu> &cpus)
     return text;
 }
 
-QList<Cpu> idleCpus(int count, quint64 idle)
-{
+// A monitor over a scratch /proc/stat of `count` idle CPUs, primed.
+struct Rig {
+    ScratchTree proc;
     QList<Cpu> cpus;
-    for (int i = 0; i < count; ++i)
-        cpus.append({i, {1000, 10, 500, idle, 20, 0, 5, 0, 0, 0}});
-    return cpus;
-}
+    CPUMonitor monitor{proc.asProc(proc.path())};
+
+    Rig(int count, quint64 idle)
+    {
+        for (int i = 0; i < count; ++i)
+            cpus.append({i, {1000, 10, 500, idle, 20, 0, 5, 0, 0, 0}});
+        next();
+    }
+    // The reading over `cpus` as they are now.
+    CPUSample next() { return proc.write("stat", statText(cpus)) ? monitor.read() : CPUSample{}; }
+};
 
 } // namespace
 
@@ -57,46 +65,23 @@ private Q_SLOTS:
 
     void busyTimeTakesNiceIrqSoftirqAndStealAsSystem()
     {
-        ScratchTree proc;
-        QList<Cpu> cpus = idleCpus(4, 100000);
-        QVERIFY(proc.write("stat", statText(cpus)));
-        CPUMonitor monitor(proc.asProc(proc.path()));
-        monitor.read();
+        Rig rig(4, 100000);
 
         // cpu0: user 30 (20 of them guest time, already inside user), nice 10,
         // system 5, irq 3, softirq 2, idle 50. cpu1: steal 25, idle 75.
         // cpu2: idle 60 and iowait 40, which is idle too. cpu3: idle 100.
-        auto add = [&](int cpu, int field, quint64 ticks) { cpus[cpu].ticks[field] += ticks; };
+        auto add = [&](int cpu, int field, quint64 ticks) { rig.cpus[cpu].ticks[field] += ticks; };
         add(0, 0, 30), add(0, 8, 20), add(0, 1, 10), add(0, 2, 5), add(0, 5, 3), add(0, 6, 2), add(0, 3, 50);
         add(1, 7, 25), add(1, 3, 75);
         add(2, 3, 60), add(2, 4, 40);
         add(3, 3, 100);
-        QVERIFY(proc.write("stat", statText(cpus)));
-
-        const CPUSample s = monitor.read();
+        const CPUSample s = rig.next();
         QCOMPARE(s.perCore, (QList<double>{0.5, 0.25, 0.0, 0.0}));
         // 400 ticks: user 30, system 10 + 5 + 3 + 2 + 25 = 45, idle 325.
         QCOMPARE(s.user, 30.0 / 400);
         QCOMPARE(s.system, 45.0 / 400);
         QCOMPARE(s.idle, 325.0 / 400);
         QCOMPARE(s.total, 75.0 / 400);
-    }
-
-    void singleCpuSplit()
-    {
-        ScratchTree proc;
-        QVERIFY(proc.copyFixture("cpu1/proc/stat", "stat"));
-        CPUMonitor monitor(proc.asProc(TestSupport::fixture("cpu1/sys")));
-        QCOMPARE(monitor.read().perCore, QList<double>{0.0});
-
-        // 30 user, 10 system, 10 nice, 50 idle.
-        QVERIFY(proc.write("stat", statText({{0, {51264, 130, 20321, 1822460, 3312, 0, 912, 0, 0, 0}}})));
-        const CPUSample s = monitor.read();
-        QCOMPARE(s.total, 0.5);
-        QCOMPARE(s.user, 0.3);
-        QCOMPARE(s.system, 0.2);
-        QCOMPARE(s.idle, 0.5);
-        QCOMPARE(s.perCore, QList<double>{0.5});
     }
 
     void twoHundredFiftySixCpus()
@@ -123,11 +108,8 @@ private Q_SLOTS:
 
     void countersThatGoBackwardsCountAsNoTime()
     {
-        ScratchTree proc;
-        QList<Cpu> cpus = idleCpus(2, 5000);
-        QVERIFY(proc.write("stat", statText(cpus)));
-        CPUMonitor monitor(proc.asProc(proc.path()));
-        monitor.read();
+        Rig rig(2, 5000);
+        QList<Cpu> &cpus = rig.cpus;
 
         // iowait is known to step back on some kernels; a bogus user counter
         // going down must not turn into 2^64 ticks of work either.
@@ -136,8 +118,7 @@ private Q_SLOTS:
         cpus[1].ticks[0] -= 500;
         cpus[1].ticks[2] += 20;
         cpus[1].ticks[3] += 80;
-        QVERIFY(proc.write("stat", statText(cpus)));
-        const CPUSample s = monitor.read();
+        const CPUSample s = rig.next();
         QCOMPARE(s.perCore, (QList<double>{0.0, 0.2}));
         QCOMPARE(s.total, 0.1);
         QCOMPARE(s.idle, 0.9);
@@ -146,50 +127,35 @@ private Q_SLOTS:
         // The next interval is measured from the lowered counters.
         cpus[1].ticks[0] += 50;
         cpus[1].ticks[3] += 50;
-        QVERIFY(proc.write("stat", statText(cpus)));
-        QCOMPARE(monitor.read().perCore, (QList<double>{0.0, 0.5}));
+        QCOMPARE(rig.next().perCore, (QList<double>{0.0, 0.5}));
     }
 
     void changedCpuSetPrimesAgain()
     {
-        ScratchTree proc;
-        QList<Cpu> cpus = idleCpus(4, 1000);
-        QVERIFY(proc.write("stat", statText(cpus)));
-        CPUMonitor monitor(proc.asProc(proc.path()));
-        monitor.read();
-
+        Rig rig(4, 1000);
         // cpu2 goes offline: its line disappears.
-        QList<Cpu> three = cpus;
-        three.removeAt(2);
-        QVERIFY(proc.write("stat", statText(three)));
-        CPUSample s = monitor.read();
+        rig.cpus.removeAt(2);
+        CPUSample s = rig.next();
         QCOMPARE(s.perCore, QList<double>(3, 0.0));
         QCOMPARE(s.idle, 1.0);
-        QCOMPARE(monitor.coreCount(), 3);
+        QCOMPARE(rig.monitor.coreCount(), 3);
 
-        for (Cpu &c : three)
+        for (Cpu &c : rig.cpus)
             c.ticks[0] += 100;
-        QVERIFY(proc.write("stat", statText(three)));
-        QCOMPARE(monitor.read().perCore, QList<double>(3, 1.0));
+        QCOMPARE(rig.next().perCore, QList<double>(3, 1.0));
 
         // Same count, different CPUs (cpu3 swapped for cpu7): not comparable.
-        QList<Cpu> swapped = three;
-        swapped[2].id = 7;
-        for (Cpu &c : swapped)
+        rig.cpus[2].id = 7;
+        for (Cpu &c : rig.cpus)
             c.ticks[0] += 100;
-        QVERIFY(proc.write("stat", statText(swapped)));
-        s = monitor.read();
+        s = rig.next();
         QCOMPARE(s.perCore, QList<double>(3, 0.0));
         QCOMPARE(s.total, 0.0);
     }
 
     void unreadableOrDamagedStatGivesTheEmptyRecordAndKeepsTheBaseline()
     {
-        ScratchTree proc;
-        QList<Cpu> cpus = idleCpus(2, 1000);
-        QVERIFY(proc.write("stat", statText(cpus)));
-        CPUMonitor monitor(proc.asProc(proc.path()));
-        monitor.read();
+        Rig rig(2, 1000);
 
         const QList<QByteArray> damaged = {
             QByteArray(),
@@ -200,23 +166,21 @@ private Q_SLOTS:
             "cpu99999999999 1 2 3 4\n",
         };
         for (const QByteArray &text : damaged) {
-            QVERIFY(proc.write("stat", text));
-            const CPUSample s = monitor.read();
-            QCOMPARE(s, CPUSample{});
+            QVERIFY(rig.proc.write("stat", text));
+            QCOMPARE(rig.monitor.read(), CPUSample{});
         }
-        QVERIFY(proc.remove("stat"));
-        QCOMPARE(monitor.read(), CPUSample{});
-        QCOMPARE(monitor.coreCount(), 2);
+        QVERIFY(rig.proc.remove("stat"));
+        QCOMPARE(rig.monitor.read(), CPUSample{});
+        QCOMPARE(rig.monitor.coreCount(), 2);
 
         // Back again: measured against the last good reading.
-        for (Cpu &c : cpus) {
+        for (Cpu &c : rig.cpus) {
             c.ticks[0] += 75;
             c.ticks[3] += 25;
         }
-        QVERIFY(proc.write("stat", statText(cpus)));
-        QCOMPARE(monitor.read().total, 0.75);
+        QCOMPARE(rig.next().total, 0.75);
 
-        CPUMonitor missing({proc.path("nowhere"), proc.path("nowhere")});
+        CPUMonitor missing({rig.proc.path("nowhere"), rig.proc.path("nowhere")});
         QCOMPARE(missing.read(), CPUSample{});
         QCOMPARE(missing.coreCount(), 0);
     }

@@ -15,8 +15,6 @@
 #include <QTest>
 
 #include <atomic>
-#include <filesystem>
-#include <mutex>
 #include <thread>
 
 namespace {
@@ -88,21 +86,32 @@ QHash<QString, Figures> laptopFigures()
             {QStringLiteral("/run/media/alex/My Photos (2023)"), {2000 * GB, 150 * GB, false}}};
 }
 
-// Copies a fixture tree, links kept as links.
-// A writable copy of a fixture tree whose diskstats tests swap between
-// readings.
+// A monitor over a writable copy of a fixture tree whose diskstats tests
+// swap between readings.
 struct StepRoot {
     QTemporaryDir dir;
-    explicit StepRoot(const QString &tree) { copyTree(TestSupport::fixture(tree), dir.path()); }
+    Clock clock;
+    std::unique_ptr<DiskMonitor> monitor;
+    explicit StepRoot(const QString &tree, const FakeStat &stat = {})
+    {
+        copyTree(TestSupport::fixture(tree), dir.path());
+        monitor = std::make_unique<DiskMonitor>(
+            SystemRoots{dir.path() + QStringLiteral("/proc"), dir.path() + QStringLiteral("/sys"), true},
+            options(stat, clock));
+    }
     void use(const QString &fixtureFile)
     {
         const QString target = dir.path() + QStringLiteral("/proc/diskstats");
         QFile::remove(target);
         QVERIFY(QFile::copy(TestSupport::fixture(fixtureFile), target));
     }
-    SystemRoots roots() const
+    // The reading `seconds` later, over `diskstats` when given.
+    DiskSample readAfter(double seconds, const QString &diskstats = {})
     {
-        return {dir.path() + QStringLiteral("/proc"), dir.path() + QStringLiteral("/sys"), true};
+        if (!diskstats.isEmpty())
+            use(diskstats);
+        clock.advance(seconds);
+        return monitor->read();
     }
 };
 
@@ -114,8 +123,7 @@ class DiskMonitorTest : public QObject {
 private Q_SLOTS:
     void laptopListsRealUserVolumesLargestFirst()
     {
-        FakeStat stat;
-        stat.figures = laptopFigures();
+        FakeStat stat{laptopFigures()};
         stat.figures.insert(QStringLiteral("/home"), {1000 * GB, 400 * GB, false});
         DiskMonitor monitor(fixtureRoots(QStringLiteral("laptop")), options(stat));
         const DiskSample s = monitor.read();
@@ -140,8 +148,7 @@ private Q_SLOTS:
 
     void serverWithLvmAndRaidListsEachFileSystemOnce()
     {
-        FakeStat stat;
-        stat.figures = {
+        FakeStat stat{{
             {QStringLiteral("/"), {50 * GB, 30 * GB, false}},
             {QStringLiteral("/home"), {500 * GB, 100 * GB, false}},
             {QStringLiteral("/srv/nfs"), {500 * GB, 100 * GB, false}},
@@ -150,7 +157,7 @@ private Q_SLOTS:
             {QStringLiteral("/srv/scratch"), {300 * GB, 300 * GB, false}},
             {QStringLiteral("/mnt/weird\\name\ttab"), {1 * GB, 1 * GB, false}},
             {QStringLiteral("/boot"), {1 * GB, 0.8 * GB, false}},
-        };
+        }};
         DiskMonitor monitor(fixtureRoots(QStringLiteral("server")), options(stat));
         const DiskSample s = monitor.read();
 
@@ -210,19 +217,19 @@ private Q_SLOTS:
 
     void readOnlyAndEmptyVolumes()
     {
-        FakeStat stat;
-        stat.figures = {
+        FakeStat stat{{
             {QStringLiteral("/"), {64 * GB, 0, true}},                                    // read-only root: kept
             {QStringLiteral("/run/media/alex/KINGSTON"), {32 * GB, 30 * GB, true}},       // write-protected: dropped
             {QStringLiteral("/mnt/windows"), {0, 0, false}},                              // no capacity: dropped
             {QStringLiteral("/run/media/alex/My Photos (2023)"), {100 * GB, 120 * GB, false}},
-        };
+        }};
         DiskMonitor monitor(fixtureRoots(QStringLiteral("laptop")), options(stat));
         const DiskSample s = monitor.read();
         QCOMPARE(paths(s), (QStringList{QStringLiteral("/run/media/alex/My Photos (2023)"), QStringLiteral("/")}));
 
         // A root mounted read-only is a candidate; other read-only mounts
-        // are not, and neither are types the kernel marks nodev.
+        // are not, and neither are types the kernel marks nodev. Damaged
+        // lines are skipped, good ones after them kept.
         const QByteArray filesystems = "nodev\ttmpfs\n\text4\nnodev\tfuse\n";
         const QByteArray mountinfo =
             "1 0 8:2 / / ro,relatime shared:1 - ext4 /dev/sda2 ro\n"
@@ -231,29 +238,30 @@ private Q_SLOTS:
             "4 1 0:40 / /tmp rw - tmpfs tmpfs rw\n"
             "5 1 0:41 / /net rw - fuse.sshfs host:/ rw\n"
             "6 1 8:5 / /unknown rw - zfs-like /dev/sda5 rw\n"
-            "7 1 0:42 / /unknown2 rw - zfs-like pool/data rw\n";
-        const auto groups = DiskScan::volumeCandidates(mountinfo, filesystems);
+            "7 1 0:42 / /unknown2 rw - zfs-like pool/data rw\n"
+            "garbage\n"
+            "8 0 8:12 / /\n"
+            "9 0 8:12 / / rw - ext4\n"
+            "10 0 nodevnumber / /x rw - ext4 /dev/sda1 rw\n"
+            "11 0 8:13 / relative rw - ext4 /dev/sda13 rw\n"
+            "\n   \n"
+            "12 1 8:1 / /ok rw shared:1 master:2 - ext4 /dev/sda1 rw\n"
+            "13 1 8:9 / /trailing\\ rw - ext4 /dev/sda9 rw\n";
         QStringList points;
-        for (const auto &g : groups)
+        for (const auto &g : DiskScan::volumeCandidates(mountinfo, filesystems))
             points << g.first().mountPoint;
-        QCOMPARE(points, (QStringList{QStringLiteral("/"), QStringLiteral("/unknown")}));
+        QCOMPARE(points, (QStringList{QStringLiteral("/"), QStringLiteral("/unknown"), QStringLiteral("/ok"),
+                                      QStringLiteral("/trailing\\")}));
     }
 
     void containerHasNoDiskRatesAndSkipsBoundFiles()
     {
-        FakeStat stat;
         // Only /data is a folder; /etc/hosts and friends are files.
-        stat.figures = {{QStringLiteral("/data"), {500 * GB, 200 * GB, false}}};
-        Clock clock;
-        StepRoot root(QStringLiteral("container"));
-        DiskMonitor monitor(root.roots(), options(stat, clock));
-        DiskSample s = monitor.read();
+        StepRoot root(QStringLiteral("container"), {{{QStringLiteral("/data"), {500 * GB, 200 * GB, false}}}});
+        DiskSample s = root.monitor->read();
         QCOMPARE(names(s), QStringList{QStringLiteral("data")});
         QVERIFY(!s.hasRate);
-
-        root.use(QStringLiteral("container/later/proc/diskstats"));
-        clock.advance(2);
-        s = monitor.read();
+        s = root.readAfter(2, QStringLiteral("container/later/proc/diskstats"));
         QVERIFY(!s.hasRate);
         QCOMPARE(s.readRate, 0.0);
         QCOMPARE(s.writeRate, 0.0);
@@ -261,8 +269,7 @@ private Q_SLOTS:
 
     void snapshotListsNoVolumesButStillMeasuresDisks()
     {
-        FakeStat stat;
-        stat.figures = {{QStringLiteral("/"), {1000 * GB, 400 * GB, false}}};
+        FakeStat stat{{{QStringLiteral("/"), {1000 * GB, 400 * GB, false}}}};
         Clock clock;
         DiskMonitor monitor(fixtureRoots(QStringLiteral("laptop"), false), options(stat, clock));
         DiskSample s = monitor.read();
@@ -297,12 +304,8 @@ private Q_SLOTS:
         QFETCH(double, readRate);
         QFETCH(double, writeRate);
         StepRoot root(tree);
-        Clock clock;
-        DiskMonitor monitor(root.roots(), options(FakeStat{}, clock));
-        QVERIFY(!monitor.read().hasRate);
-        root.use(later + QStringLiteral("/proc/diskstats"));
-        clock.advance(2);
-        const DiskSample s = monitor.read();
+        QVERIFY(!root.monitor->read().hasRate);
+        const DiskSample s = root.readAfter(2, later + QStringLiteral("/proc/diskstats"));
         QVERIFY(s.hasRate);
         QCOMPARE(s.readRate, readRate);
         QCOMPARE(s.writeRate, writeRate);
@@ -311,50 +314,20 @@ private Q_SLOTS:
     void rateNeedsAUsableInterval()
     {
         StepRoot root(QStringLiteral("laptop"));
-        Clock clock;
-        DiskMonitor monitor(root.roots(), options(FakeStat{}, clock));
-        bool later = false;
-        const auto flip = [&] {
-            later = !later;
-            root.use(later ? QStringLiteral("laptop/later/proc/diskstats") : QStringLiteral("laptop/proc/diskstats"));
-        };
-        monitor.read();
-
-        // 31 s: no rate, but the counters are kept ...
-        clock.advance(31);
-        flip();
-        DiskSample s = monitor.read();
-        QVERIFY(!s.hasRate);
-        QCOMPARE(s.readRate, 0.0);
-        // ... so 2 s later there is one (the counters went back: 0).
-        clock.advance(2);
-        flip();
-        s = monitor.read();
-        QVERIFY(s.hasRate);
-        QCOMPARE(s.readRate, 0.0);
-        clock.advance(2);
-        flip();
-        s = monitor.read();
-        QCOMPARE(s.readRate, 24000 * 512 / 2.0);
+        root.monitor->read();
+        // 31 s: no rate, but the counters are kept for the next one.
+        QVERIFY(!root.readAfter(31).hasRate);
+        const QString later = QStringLiteral("laptop/later/proc/diskstats");
+        QCOMPARE(root.readAfter(2, later).readRate, 24000 * 512 / 2.0);
 
         // Same timestamp, and a clock that stepped back: no rate.
-        flip();
-        s = monitor.read();
-        QVERIFY(!s.hasRate);
-        clock.advance(-5);
-        s = monitor.read();
-        QVERIFY(!s.hasRate);
+        QVERIFY(!root.readAfter(0).hasRate);
+        QVERIFY(!root.readAfter(-5).hasRate);
 
-        // A cleared baseline primes, then rates resume.
-        clock.advance(1);
-        monitor.read();
-        monitor.clearBaseline();
-        clock.advance(1);
-        s = monitor.read();
-        QVERIFY(!s.hasRate);
-        clock.advance(30);
-        flip();
-        s = monitor.read();
+        // A cleared baseline primes; 30 s still gives a rate.
+        root.monitor->clearBaseline();
+        QVERIFY(!root.readAfter(1, QStringLiteral("laptop/proc/diskstats")).hasRate);
+        const DiskSample s = root.readAfter(30, later);
         QVERIFY(s.hasRate);
         QCOMPARE(s.readRate, 24000 * 512 / 30.0);
     }
@@ -365,22 +338,16 @@ private Q_SLOTS:
         // from /sys/block): the other disks' traffic still shows, and the
         // vanished disk's large totals do not drag the sum below zero.
         StepRoot root(QStringLiteral("laptop"));
-        Clock clock;
-        DiskMonitor monitor(root.roots(), options(FakeStat{}, clock));
-        monitor.read();
+        root.monitor->read();
         QVERIFY(QDir(root.dir.path() + QStringLiteral("/sys/block/sdb")).removeRecursively());
-        root.use(QStringLiteral("laptop/unplugged/proc/diskstats"));
-        clock.advance(2);
-        DiskSample s = monitor.read();
+        DiskSample s = root.readAfter(2, QStringLiteral("laptop/unplugged/proc/diskstats"));
         QVERIFY(s.hasRate);
         QCOMPARE(s.readRate, 8000 * 512 / 2.0);
         QCOMPARE(s.writeRate, 0.0);
         // Plugged back in with its old totals: it only primes.
         copyTree(TestSupport::fixture(QStringLiteral("laptop/sys/block/sdb")),
                  root.dir.path() + QStringLiteral("/sys/block/sdb"));
-        root.use(QStringLiteral("laptop/later/proc/diskstats"));
-        clock.advance(2);
-        s = monitor.read();
+        s = root.readAfter(2, QStringLiteral("laptop/later/proc/diskstats"));
         QCOMPARE(s.readRate, (12000 + 4000) * 512 / 2.0);
         QCOMPARE(s.writeRate, 40000 * 512 / 2.0);
     }
@@ -388,8 +355,7 @@ private Q_SLOTS:
     void missingOrDamagedSourcesGiveTheEmptyRecord()
     {
         Clock clock;
-        FakeStat stat;
-        stat.figures = {{QStringLiteral("/"), {1, 1, false}}};
+        FakeStat stat{{{QStringLiteral("/"), {1, 1, false}}}};
         DiskMonitor monitor({QStringLiteral("/nonexistent/proc"), QStringLiteral("/nonexistent/sys"), true},
                             options(stat, clock));
         for (int i = 0; i < 3; ++i) {
@@ -397,20 +363,7 @@ private Q_SLOTS:
             QCOMPARE(monitor.read(), DiskSample{});
         }
 
-        // Damaged lines are skipped, good ones kept.
-        const QByteArray mountinfo = "garbage\n"
-                                     "1 0 8:2 / /\n"
-                                     "2 0 8:2 / / rw - ext4\n"
-                                     "3 0 nodevnumber / /x rw - ext4 /dev/sda1 rw\n"
-                                     "4 0 8:3 / relative rw - ext4 /dev/sda3 rw\n"
-                                     "\n   \n"
-                                     "5 1 8:1 / /ok rw shared:1 master:2 - ext4 /dev/sda1 rw\n"
-                                     "6 1 8:9 / /trailing\\ rw - ext4 /dev/sda9 rw\n";
-        const auto groups = DiskScan::volumeCandidates(mountinfo, "\text4\n");
-        QCOMPARE(groups.size(), 2);
-        QCOMPARE(groups[0].first().mountPoint, QStringLiteral("/ok"));
-        QCOMPARE(groups[1].first().mountPoint, QStringLiteral("/trailing\\"));
-
+        // Damaged diskstats lines are skipped, good ones kept.
         const QByteArray stats = " 8 0 sda 1 2 3\n"
                                  " 8 0 sdb 1 2 x 4 5 6 7 8 9 10 11\n"
                                  " 8 0 sdc 1 2 10 4 5 6 20 8 9 10 11\n"
@@ -435,13 +388,8 @@ private Q_SLOTS:
         QVERIFY(QFile::link(QStringLiteral("/dev/mapper/luks-3f6b2c1e"), byLabel + QStringLiteral("/fedora")));
         QVERIFY(QFile::link(QStringLiteral("/dev/sdb1"), byLabel + QStringLiteral("/Fotos\\x2fAlt")));
 
-        const auto labels = DiskScan::readLabels(byLabel);
-        QCOMPARE(labels.size(), 3);
-        QCOMPARE(labels.value(QStringLiteral("/dev/sda1")), QStringLiteral("USB STICK"));
-
-        FakeStat stat;
-        stat.figures = laptopFigures();
-        DiskMonitor::Options o = options(stat);
+        QCOMPARE(DiskScan::readLabels(byLabel).size(), 3);
+        DiskMonitor::Options o = options(FakeStat{laptopFigures()});
         o.labelDir = byLabel;
         DiskMonitor monitor(fixtureRoots(QStringLiteral("laptop")), o);
         QCOMPARE(names(monitor.read()), (QStringList{QStringLiteral("Fotos/Alt"), QStringLiteral("fedora"),

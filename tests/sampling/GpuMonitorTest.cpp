@@ -5,8 +5,6 @@
 #include <QTemporaryDir>
 #include <QTest>
 
-#include <filesystem>
-
 namespace {
 
 using TestSupport::fixtureRoots;

@@ -51,10 +51,7 @@ private Q_SLOTS:
             disk.read();
             done->store(true);
         });
-        const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(10);
-        while (!done->load() && std::chrono::steady_clock::now() < deadline)
-            std::this_thread::sleep_for(std::chrono::milliseconds(10));
-        const bool finished = done->load();
+        const bool finished = QTest::qWaitFor([&] { return done->load(); }, 10000);
         while (!done->load()) {
             for (const QString &pipe : pipes) {
                 const int fd = ::open(QFile::encodeName(pipe).constData(), O_WRONLY | O_NONBLOCK | O_CLOEXEC);

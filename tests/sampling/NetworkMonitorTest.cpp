@@ -47,6 +47,15 @@ QByteArray devText(const QList<Counters> &rows)
     return text;
 }
 
+// A line of /proc/net/route; destination and mask 0 make a default route,
+// flag 1 is up.
+QByteArray route(const char *iface, int flags, int metric, const char *dest = "00000000",
+                 const char *mask = "00000000")
+{
+    return QByteArray(iface) + '\t' + dest + "\t00000000\t000" + QByteArray::number(flags) + "\t0\t0\t"
+        + QByteArray::number(metric) + '\t' + mask + "\t0\t0\t0";
+}
+
 QByteArray routeText(const QList<QByteArray> &rows)
 {
     QByteArray text = "Iface\tDestination\tGateway \tFlags\tRefCnt\tUse\tMetric\tMask\t\tMTU\tWindow\tIRTT\n";
@@ -58,14 +67,15 @@ QByteArray routeText(const QList<QByteArray> &rows)
 const NetworkMonitor::AddressList laptopAddresses = {
     {"lo", "127.0.0.1"}, {"docker0", "172.17.0.1"}, {"wlan0", "192.168.1.23"}, {"tun0", "10.8.0.5"}};
 
-// A monitor over a scratch /proc with the laptop's /sys, on a clock the
-// test moves by hand.
+// A monitor over a scratch /proc with the laptop's /sys (or another), on a
+// clock the test moves by hand.
 struct Rig {
     ScratchTree proc;
     double now = 1000;
-    NetworkMonitor monitor{proc.asProc(TestSupport::fixture("laptop/sys"))};
+    NetworkMonitor monitor;
 
-    Rig()
+    explicit Rig(const QString &sys = TestSupport::fixture("laptop/sys"))
+        : monitor(proc.asProc(sys))
     {
         monitor.setClock([this] { return now; });
         monitor.setAddressSource([] { return laptopAddresses; });
@@ -114,29 +124,6 @@ private Q_SLOTS:
         const double large = cost(20000);
         QVERIFY2(large / small < 30, qPrintable(QStringLiteral("2,000: %1 ms, 20,000: %2 ms")
                                                     .arg(small / 1e6).arg(large / 1e6)));
-    }
-
-    void laptopCountsOnlyPhysicalInterfaces()
-    {
-        NetworkMonitor monitor({TestSupport::fixture("laptop/proc"), TestSupport::fixture("laptop/sys")});
-        monitor.setAddressSource([] { return laptopAddresses; });
-        const NetworkSample s = monitor.read(true);
-        // wlan0 and the unplugged Ethernet port; loopback, the docker bridge,
-        // its veth and the VPN tunnel carry traffic that is counted already.
-        // wlan0's receive counter is past 4 GiB.
-        QCOMPARE(s.totalIn, 9876543210.0);
-        QCOMPARE(s.totalOut, 1234567890.0);
-        QCOMPARE(s.downRate, 0.0);
-        QCOMPARE(s.upRate, 0.0);
-        QCOMPARE(s.primaryInterface, QStringLiteral("wlan0"));
-        QCOMPARE(s.ipv4, QStringLiteral("192.168.1.23"));
-
-        // A captured tree has routes but no live address list to match.
-        const NetworkSample snapshot =
-            NetworkMonitor(SystemRoots::underPrefix(TestSupport::fixture("laptop"))).read(true);
-        QCOMPARE(snapshot.primaryInterface, QStringLiteral("wlan0"));
-        QCOMPARE(snapshot.ipv4, QStringLiteral("\u2014"));
-        QCOMPARE(snapshot.totalOut, 1234567890.0);
     }
 
     void ratesFollowTheCounters_data()
@@ -206,18 +193,15 @@ private Q_SLOTS:
     void withoutPhysicalInterfacesEverythingButLoopbackCounts()
     {
         // A container: its eth0 is one end of a veth pair.
-        ScratchTree proc;
         ScratchTree sys;
         QVERIFY(sys.write("class/net/eth0/type", "1\n"));
         QVERIFY(sys.write("class/net/lo/type", "772\n"));
-        double now = 0;
-        NetworkMonitor monitor(proc.asProc(sys.path()));
-        monitor.setClock([&] { return now; });
-        QVERIFY(proc.write("net/dev", devText({{"lo", 500, 500}, {"eth0", 1000, 2000}})));
-        QCOMPARE(monitor.read(false).totalIn, 1000.0);
-        now += 1;
-        QVERIFY(proc.write("net/dev", devText({{"lo", 9500, 9500}, {"eth0", 1500, 2100}})));
-        const NetworkSample s = monitor.read(false);
+        Rig rig(sys.path());
+        QVERIFY(rig.dev({{"lo", 500, 500}, {"eth0", 1000, 2000}}));
+        QCOMPARE(rig.monitor.read(false).totalIn, 1000.0);
+        rig.now += 1;
+        QVERIFY(rig.dev({{"lo", 9500, 9500}, {"eth0", 1500, 2100}}));
+        const NetworkSample s = rig.monitor.read(false);
         QCOMPARE(s.downRate, 500.0);
         QCOMPARE(s.upRate, 100.0);
     }
@@ -269,35 +253,28 @@ private Q_SLOTS:
 
         // The default route with the lowest metric wins; a route that is not
         // up, or a non-default one with a lower metric, does not.
-        QCOMPARE(primary({"wlan0\t00000000\t0101A8C0\t0003\t0\t0\t600\t00000000\t0\t0\t0",
-                          "enp0s31f6\t00000000\t0100000A\t0003\t0\t0\t100\t00000000\t0\t0\t0",
-                          "tun0\t00000000\t00000000\t0002\t0\t0\t5\t00000000\t0\t0\t0",
-                          "tun0\t0000080A\t00000000\t0001\t0\t0\t0\t00FFFFFF\t0\t0\t0"}),
+        const QByteArray wlan = route("wlan0", 3, 600);
+        QCOMPARE(primary({wlan, route("enp0s31f6", 3, 100), route("tun0", 2, 5),
+                          route("tun0", 1, 0, "0000080A", "00FFFFFF")}),
                  P("enp0s31f6", "10.0.0.7"));
         // A VPN that takes the default route is the primary interface.
-        QCOMPARE(primary({"wlan0\t00000000\t0101A8C0\t0003\t0\t0\t600\t00000000\t0\t0\t0",
-                          "tun0\t00000000\t00000000\t0001\t0\t0\t50\t00000000\t0\t0\t0"}),
-                 P("tun0", "10.8.0.5"));
+        QCOMPARE(primary({wlan, route("tun0", 1, 50)}), P("tun0", "10.8.0.5"));
         // The first address of the routed interface.
-        QCOMPARE(primary({"wlan0\t00000000\t0101A8C0\t0003\t0\t0\t600\t00000000\t0\t0\t0"}),
-                 P("wlan0", "192.168.1.23"));
+        QCOMPARE(primary({wlan}), P("wlan0", "192.168.1.23"));
         // Routed through an interface without an IPv4 address.
-        QCOMPARE(primary({"ppp0\t00000000\t00000000\t0001\t0\t0\t0\t00000000\t0\t0\t0"}),
-                 P("ppp0", "\u2014"));
+        QCOMPARE(primary({route("ppp0", 1, 0)}), P("ppp0", "\u2014"));
         // No default route: the first physical interface with an address
         // (docker0 comes first but is a bridge).
-        QCOMPARE(primary({"wlan0\t0001A8C0\t00000000\t0001\t0\t0\t600\t00FFFFFF\t0\t0\t0", "garbage line",
+        QCOMPARE(primary({route("wlan0", 1, 600, "0001A8C0", "00FFFFFF"), "garbage line",
                           "x\tzz\tzz\tzz\t0\t0\t0\tzz"}),
                  P("enp0s31f6", "10.0.0.7"));
+        // No route file, and nothing physical has an address.
         rig.proc.remove("net/route");
-        QCOMPARE(primary({}), P("enp0s31f6", "10.0.0.7"));
-        // Nothing physical has an address.
-        rig.proc.write("net/route", routeText({}));
         rig.monitor.setAddressSource([] { return NetworkMonitor::AddressList{{"lo", "127.0.0.1"}}; });
         QCOMPARE(rig.monitor.read(true).primaryInterface, QStringLiteral("\u2014"));
     }
 
-    void addressIsLookedUpOnlyWhenAsked()
+    void laptopCountsOnlyPhysicalInterfacesAndLooksUpItsAddressWhenAsked()
     {
         Rig rig;
         QVERIFY(rig.proc.copyFixture("laptop/proc/net/dev", "net/dev"));
@@ -308,22 +285,36 @@ private Q_SLOTS:
             return laptopAddresses;
         });
 
+        // wlan0 and the unplugged Ethernet port; loopback, the docker bridge,
+        // its veth and the VPN tunnel carry traffic that is counted already.
+        // wlan0's receive counter is past 4 GiB.
         NetworkSample s = rig.monitor.read(false);
+        QCOMPARE(s.totalIn, 9876543210.0);
+        QCOMPARE(s.totalOut, 1234567890.0);
+        QCOMPARE(s.downRate, 0.0);
         QCOMPARE(s.primaryInterface, QStringLiteral("\u2014"));
         QCOMPARE(s.ipv4, QStringLiteral("\u2014"));
-        QCOMPARE(s.totalIn, 9876543210.0);
         QCOMPARE(lookups, 0);
 
-        QCOMPARE(rig.monitor.read(true).ipv4, QStringLiteral("192.168.1.23"));
+        s = rig.monitor.read(true);
+        QCOMPARE(s.primaryInterface, QStringLiteral("wlan0"));
+        QCOMPARE(s.ipv4, QStringLiteral("192.168.1.23"));
         QCOMPARE(lookups, 1);
 
         // The route moves away, but until the next lookup the last answer stays.
-        rig.proc.write("net/route", routeText({"enp0s31f6\t00000000\t0100000A\t0003\t0\t0\t100\t00000000\t0\t0\t0"}));
+        rig.proc.write("net/route", routeText({route("enp0s31f6", 3, 100)}));
         s = rig.monitor.read(false);
         QCOMPARE(s.primaryInterface, QStringLiteral("wlan0"));
         QCOMPARE(s.ipv4, QStringLiteral("192.168.1.23"));
         QCOMPARE(lookups, 1);
         QCOMPARE(rig.monitor.read(true).primaryInterface, QStringLiteral("enp0s31f6"));
+
+        // A captured tree has routes but no live address list to match.
+        const NetworkSample snapshot =
+            NetworkMonitor(SystemRoots::underPrefix(TestSupport::fixture("laptop"))).read(true);
+        QCOMPARE(snapshot.primaryInterface, QStringLiteral("wlan0"));
+        QCOMPARE(snapshot.ipv4, QStringLiteral("\u2014"));
+        QCOMPARE(snapshot.totalOut, 1234567890.0);
     }
 };
 
