@@ -13,22 +13,13 @@
 #include "sampling/SMC.h"
 #include "sampling/SensorMonitor.h"
 
+#include <QRegularExpression>
 #include <QTest>
 
-namespace {
-
-bool printable(const QString &text)
-{
-    for (const QChar c : text) {
-        if (c.unicode() < 0x20 || (c.unicode() >= 0x7f && c.unicode() <= 0x9f))
-            return false;
-    }
-    return true;
-}
-
-#define VERIFY_PRINTABLE(text) QVERIFY2(printable(text), qPrintable(QString(text).toUtf8().toPercentEncoding()))
-
-} // namespace
+// Fails on any C0 or C1 control character in `text`.
+#define VERIFY_PRINTABLE(text)                                                                                \
+    QVERIFY2(!QString(text).contains(QRegularExpression(QStringLiteral("[\\x{0}-\\x{1f}\\x{7f}-\\x{9f}]"))), \
+             qPrintable(QString(text).toUtf8().toPercentEncoding()))
 
 class KernelTextTest : public QObject {
     Q_OBJECT
