@@ -207,17 +207,14 @@ private slots:
         QTest::addColumn<QString>("format");
         QTest::addColumn<bool>("mood");
         QTest::addColumn<QStringList>("extra");
-        for (const QString &format : {u"plain"_qs, u"waybar"_qs, u"i3bar"_qs}) {
-            for (const bool mood : {true, false}) {
-                const QString mode = mood ? u"mood"_qs : u"numbers"_qs;
-                QTest::addRow("%s-%s-en", qPrintable(format), qPrintable(mode))
-                    << format << mood << QStringList{u"--lang"_qs, u"en"_qs};
-                QTest::addRow("%s-%s-ja", qPrintable(format), qPrintable(mode))
-                    << format << mood << QStringList{u"--lang"_qs, u"ja"_qs};
-                QTest::addRow("%s-%s-zhHant-F", qPrintable(format), qPrintable(mode))
-                    << format << mood << QStringList{u"--lang"_qs, u"zhHant"_qs, u"--fahrenheit"_qs};
-            }
-        }
+        const QList<QPair<QString, QStringList>> languages = {{u"en"_qs, {u"--lang"_qs, u"en"_qs}},
+                                                              {u"ja"_qs, {u"--lang"_qs, u"ja"_qs}},
+                                                              {u"zhHant-F"_qs, {u"--lang"_qs, u"zhHant"_qs, u"--fahrenheit"_qs}}};
+        for (const QString &format : {u"plain"_qs, u"waybar"_qs, u"i3bar"_qs})
+            for (const bool mood : {true, false})
+                for (const auto &[name, extra] : languages)
+                    QTest::addRow("%s-%s-%s", qPrintable(format), mood ? "mood" : "numbers", qPrintable(name))
+                        << format << mood << extra;
     }
 
     void sameLinesAsRecorded()

@@ -90,17 +90,13 @@ QFont labelFont(AppLanguage lang)
     return font;
 }
 
-struct LanguageGuard {
-    LanguageGuard(AppLanguage lang) { Localizer::shared().setLanguage(lang); }
-    ~LanguageGuard() { Localizer::shared().setLanguage(AppLanguage::system); }
-};
-
 } // namespace
 
 class TopBarFitTest : public QObject {
     Q_OBJECT
 private slots:
-    void init() { TestSupport::clearSettings(); }
+    void init() { TestSupport::resetSettings(); }
+    void cleanup() { TestSupport::resetSettings(); }
 
     void theDesktopFontsAreInstalled()
     {
@@ -140,7 +136,7 @@ private slots:
     void everyPhraseFitsTheBudget()
     {
         QFETCH(AppLanguage, lang);
-        LanguageGuard guard(lang);
+        Localizer::shared().setLanguage(lang);
         const QFontMetricsF metrics(labelFont(lang));
         const qreal ideograph = metrics.horizontalAdvance(QStringLiteral("中"));
         // An ideograph is one em; anything else means the CJK face is missing.

@@ -58,10 +58,7 @@ private slots:
         SystemMonitor &m = rig.make();
         QCOMPARE(m.moodEngine().launch(), rig.scheduler.now());
         QCOMPARE(m.mood(), Moods::justWokeUp());
-        rig.scheduler.advance(7900);
-        m.tick();
-        QCOMPARE(m.mood(), Moods::justWokeUp());
-        rig.scheduler.advance(100);
+        rig.scheduler.advance(8000);
         m.tick();
         QCOMPARE(m.mood(), Moods::soHot(95));
     }
@@ -107,14 +104,10 @@ private slots:
         rig.samplers->cpu.total = 0.6;
         m.tick();
         QCOMPARE(m.moodInputs().cpu, 0.3);
-
-        for (int i = 0; i < 60; ++i)
-            m.tick();
         for (double v : {0.5, 0.6, 0.7, 0.8, 0.9}) {
             rig.samplers->cpu.total = v;
             m.tick();
         }
-        QCOMPARE(m.cpuHistory().ordered().size(), 60);
         QVERIFY(qAbs(m.moodInputs().cpu - 0.7) < 1e-12);
     }
 
@@ -130,38 +123,26 @@ private slots:
         m.tick();
         QCOMPARE(m.moodInputs().disk, 0.9);
 
-        rig.samplers->disk.volumes = {volume(QStringLiteral("/"), 0, 0), volume(QStringLiteral("/mnt"), 100, 0)};
-        m.tick();
-        QCOMPARE(m.moodInputs().disk, 0.0);
-
         rig.samplers->disk.volumes = {};
         m.tick();
         QCOMPARE(m.moodInputs().disk, 0.0);
     }
 
-    void otherInputsFromTheLatestReadings()
+    // The recorded bar lines (cli) carry every other input through a mood;
+    // these are the ones they leave at no boundary.
+    void coreTemperatureAndChargeInputs()
     {
         Rig rig;
         auto &s = *rig.samplers;
         s.cpu.perCore = {0.8, 0.79, 1.0, 0.1};
-        s.memory.pressure = 0.7;
-        s.memory.swapUsed = 3e9;
-        s.network.downRate = 123;
-        s.network.upRate = 45;
         s.sensors.hottest = 66; // no processor temperature: the hottest sensor stands in
         s.battery.present = true;
-        s.battery.charge = 0.4;
-        s.battery.isPluggedIn = true;
+        s.battery.isPluggedIn = true; // plugged in but not charging still counts
         const MoodInputs in = rig.make().moodInputs();
         QCOMPARE(in.hotCores, 2);
         QCOMPARE(in.cores, 4);
-        QCOMPARE(in.memory, 0.7);
-        QCOMPARE(in.swap, 3e9);
-        QCOMPARE(in.netDown, 123.0);
-        QCOMPARE(in.netUp, 45.0);
         QCOMPARE(in.temp, 66.0);
         QVERIFY(in.hasBattery && in.charging);
-        QCOMPARE(in.battery, 0.4);
     }
 
     void holidayReadsTheSchedulerClock()
@@ -238,9 +219,6 @@ private slots:
         QCOMPARE(r.maxDiskUsage, 0.95);
         QCOMPARE(r.temp, 71.0);
         QVERIFY(!r.topProcess); // no process list yet
-        m.roast(RoastTopic::processes);
-        QVERIFY(!m.roastEvent()->notable);
-        QVERIFY(!m.roastEvent()->arg);
 
         QTRY_VERIFY(!m.processes().isEmpty());
         r = m.roastReadings();

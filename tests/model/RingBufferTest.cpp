@@ -12,14 +12,12 @@ private slots:
     {
         RingBuffer buffer(60);
         QVERIFY(buffer.ordered().isEmpty());
-        QCOMPARE(buffer.values().size(), 60);
         for (int i = 1; i <= 59; ++i)
             buffer.append(i);
         QCOMPARE(buffer.ordered().size(), 59);
         QVERIFY(!buffer.filled());
         buffer.append(60);
         QVERIFY(buffer.filled());
-        QCOMPARE(buffer.head(), 0);
         QCOMPARE(buffer.ordered().first(), 1.0);
         QCOMPARE(buffer.ordered().last(), 60.0);
 
@@ -28,15 +26,12 @@ private slots:
         QCOMPARE(ordered.size(), 60);
         for (int i = 0; i < 60; ++i)
             QCOMPARE(ordered[i], double(i + 2));
-    }
 
-    void capacityOneKeepsTheLastValue()
-    {
-        RingBuffer buffer(1);
-        buffer.append(3);
-        QVERIFY(buffer.filled());
-        buffer.append(7);
-        QCOMPARE(buffer.ordered(), QList<double>{7});
+        RingBuffer one(1);
+        one.append(3);
+        QVERIFY(one.filled());
+        one.append(7);
+        QCOMPARE(one.ordered(), QList<double>{7});
     }
 
     void newestTakesTheTail()

@@ -88,25 +88,21 @@ private slots:
         rig.scheduler.advance(1);
         QVERIFY(!rig.monitor.reaction());
         QCOMPARE(changes.count(), 2);
-    }
 
-    void newerReactionSurvivesTheOlderTimer()
-    {
-        Rig rig;
-        rig.pokeEvery(100, 5);
-        rig.scheduler.advance(2000);
-        rig.monitor.setReaction(Moods::glovesOff());
-        rig.scheduler.advance(10000);
-        QCOMPARE(rig.monitor.reaction(), std::optional<Mood>(Moods::glovesOff()));
-    }
+        // A newer reaction survives the older one's timer.
+        Rig newer;
+        newer.pokeEvery(100, 5);
+        newer.scheduler.advance(2000);
+        newer.monitor.setReaction(Moods::glovesOff());
+        newer.scheduler.advance(10000);
+        QCOMPARE(newer.monitor.reaction(), std::optional<Mood>(Moods::glovesOff()));
 
-    void reactionEndsEvenWhenTheBannerIsGone()
-    {
-        Rig rig;
-        rig.pokeEvery(100, 5);
-        rig.tracker.reset();
-        rig.scheduler.advance(5000);
-        QVERIFY(!rig.monitor.reaction());
+        // The reaction ends even when the banner that caused it is gone.
+        Rig gone;
+        gone.pokeEvery(100, 5);
+        gone.tracker.reset();
+        gone.scheduler.advance(5000);
+        QVERIFY(!gone.monitor.reaction());
     }
 
     void quipHidesFourSecondsAfterTheLatestPoke()

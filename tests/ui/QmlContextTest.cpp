@@ -22,17 +22,6 @@
 class QmlContextTest : public QObject {
     Q_OBJECT
 
-private:
-    std::unique_ptr<QObject> load(QQmlEngine &engine, const QByteArray &qml)
-    {
-        QQmlComponent component(&engine);
-        component.setData(qml, QUrl(QStringLiteral("qrc:/test/Probe.qml")));
-        std::unique_ptr<QObject> object(component.create());
-        if (!object)
-            qWarning("%s", qPrintable(component.errorString()));
-        return object;
-    }
-
 private slots:
     void initTestCase() { QmlWarnings::catchAll(); }
     void init() { TestSupport::resetSettings(); }
@@ -52,15 +41,17 @@ private slots:
         QQmlEngine engine;
         DesktopContext::install(engine.rootContext(), &monitor, &AppSettings::shared(), &Localizer::shared(),
                                 &actions);
-        auto probe = load(engine, R"(
+        QQmlComponent component(&engine);
+        component.setData(R"(
             import QtQuick
             QtObject {
                 property string title: texts.memory
                 property string installed: fmt.fill(texts.installedFmt, [fmt.bytes(16e9, 0)])
                 property string temp: fmt.temp(monitor.sensors.cpuTemp, appSettings.useFahrenheit)
             }
-        )");
-        QVERIFY(probe);
+        )", QUrl(QStringLiteral("qrc:/test/Probe.qml")));
+        const std::unique_ptr<QObject> probe(component.create());
+        QVERIFY2(probe, qPrintable(component.errorString()));
         QCOMPARE(probe->property("title").toString(), QStringLiteral("Memory"));
         QCOMPARE(probe->property("installed").toString(), QStringLiteral("16 GB installed"));
         QCOMPARE(probe->property("temp").toString(), QStringLiteral("50°"));
