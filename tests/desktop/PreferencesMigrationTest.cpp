@@ -46,10 +46,6 @@ private slots:
         QCOMPARE(PreferencesMigration::migrate(std::nullopt, target), false);
         QCOMPARE(target.allKeys(), QStringList{u"migratedFromLegacyBundleID"_qs});
         QCOMPARE(target.value(u"migratedFromLegacyBundleID"_qs).toBool(), true);
-
-        QSettings empty(dir.filePath(u"other.conf"_qs), QSettings::IniFormat);
-        QCOMPARE(PreferencesMigration::migrate(QVariantMap{}, empty), false);
-        QCOMPARE(empty.allKeys(), QStringList{u"migratedFromLegacyBundleID"_qs});
     }
 
     void everyKeyComesOverWhereTheNewStoreHasNone()
@@ -85,7 +81,6 @@ private slots:
         QTest::newRow("false") << QByteArray("launchAtLogin=false") << false;
         QTest::newRow("number") << QByteArray("launchAtLogin=1") << false;
         QTest::newRow("list") << QByteArray("launchAtLogin=true, false") << false;
-        QTest::newRow("absent") << QByteArray("refreshInterval=2") << false;
     }
 
     void launchAtLoginCountsOnlyAsAFlag()

@@ -20,7 +20,7 @@ class ChartsTest : public PanelHarness::TestCase {
     Q_OBJECT
 
 private slots:
-    void sparklinePoints()
+    void sparklinePointsAndBars()
     {
         const double nan = std::numeric_limits<double>::quiet_NaN();
         // One value: a flat line across at its height.
@@ -35,10 +35,8 @@ private slots:
         QCOMPARE(Sparkline::points({3, -1, nan}, 1, 100, 40), QList<QPointF>({{0, 0}, {50, 40}, {100, 40}}));
         QCOMPARE(Sparkline::upperBound({nan, 2}, 0), 2.0);
         QCOMPARE(Sparkline::upperBound({}, 0), 1.0);
-    }
 
-    void barsNeverVanish()
-    {
+        // Core bars never vanish.
         const QList<QRectF> zeros = BarsView::bars(QList<qreal>(8, 0.0), 100, 30, 2);
         QCOMPARE(zeros.size(), 8);
         for (const QRectF &bar : zeros) {
@@ -95,6 +93,7 @@ private slots:
     void chartExpandsOnClick()
     {
         Panel p;
+        p.samplers->network.downRate = 0;
         p.load();
         QQuickItem *chart = p.find(u"cpuChart"_qs);
         QQuickItem *plot = p.find(u"plot"_qs);
@@ -109,22 +108,15 @@ private slots:
         p.click(plot, {3, 3});
         QTRY_COMPARE(plot->height(), 44.0);
         QTRY_VERIFY(!shown(peak));
-    }
 
-    // Rate charts of an empty history: an empty plot, and a peak of nothing.
-    void emptyHistoryChart()
-    {
-        Panel p;
-        p.samplers->network.downRate = 0;
-        p.load();
-        QList<QQuickItem *> charts = p.findAll(u"rateChart"_qs);
-        QVERIFY(!charts.isEmpty());
-        QQuickItem *chart = charts.first();
-        chart->setProperty("values", QVariant::fromValue(QList<qreal>{}));
-        chart->setProperty("expanded", true);
-        QQuickItem *peak = Panel::collect(chart, u"peak"_qs).value(0);
-        QTRY_VERIFY(shown(peak));
-        QCOMPARE(p.text(peak), u"peak 0.0 B/s"_qs);
+        // A rate chart of an empty history: an empty plot, and a peak of nothing.
+        QQuickItem *rate = p.findAll(u"rateChart"_qs).value(0);
+        QVERIFY(rate);
+        rate->setProperty("values", QVariant::fromValue(QList<qreal>{}));
+        rate->setProperty("expanded", true);
+        QQuickItem *nothing = Panel::collect(rate, u"peak"_qs).value(0);
+        QTRY_VERIFY(shown(nothing));
+        QCOMPARE(p.text(nothing), u"peak 0.0 B/s"_qs);
     }
 };
 

@@ -54,17 +54,12 @@ qreal fillWidth(QQuickItem *bar)
     return fill->isVisible() ? fill->width() : 0;
 }
 
-QRectF sceneRect(QQuickItem *item)
-{
-    return item->mapRectToScene(QRectF(0, 0, item->width(), item->height()));
-}
-
 // Two texts on one row must not run into each other, and both stay inside
 // the panel's column.
 void verifyApart(QQuickItem *left, QQuickItem *right)
 {
-    const QRectF a = sceneRect(left);
-    const QRectF b = sceneRect(right);
+    const QRectF a = left->mapRectToScene(QRectF(QPointF(), left->size()));
+    const QRectF b = right->mapRectToScene(QRectF(QPointF(), right->size()));
     QVERIFY2(a.right() <= b.left() + 0.5, qPrintable(left->property("text").toString()));
     QVERIFY(a.left() >= 14 - 0.5);
     QVERIFY(b.right() <= 300 - 14 + 0.5);
@@ -113,15 +108,11 @@ private slots:
         p.monitor->setReaction(Moods::glovesOff());
         p.advance(MemoryCleanup::noteMs);
         QCOMPARE(p.monitor->reaction(), Moods::glovesOff());
-    }
 
-    // A run that ends after the panel closed still tells the model.
-    void freeUpOutlivesTheOpenPanel()
-    {
-        FakeCleaner cleaner;
-        Panel p;
-        p.load();
-        p.click(p.find(u"freeUpButton"_qs));
+        // A run that ends after the panel closed still tells the model.
+        p.monitor->setReaction(std::nullopt);
+        p.click(button);
+        QCOMPARE(cleaner.runs, 3);
         p.close();
         cleaner.done(2e8);
         QCoreApplication::processEvents();
@@ -130,13 +121,15 @@ private slots:
         QVERIFY(!p.monitor->hasReaction());
     }
 
-    void sixOfTenProcessesScaledToTheBusiest()
+    void processBarsScaledToTheBusiestAndVolumeFigures()
     {
         Panel p;
         p.samplers->processes = {ProcInfo(1, u"render"_qs, 250, 1), ProcInfo(2, u"compile"_qs, 100, 1),
                                  ProcInfo(3, u"browser"_qs, 20, 1)};
         for (int i = 4; i <= 10; ++i)
             p.samplers->processes << ProcInfo(i, u"idle-%1"_qs.arg(i), 1, 0);
+        p.samplers->disk.volumes = {VolumeInfo{u"data"_qs, u"/data"_qs, 500e9, 125e9},
+                                    VolumeInfo{u"empty"_qs, u"/empty"_qs, 0, 0}};
         p.load();
         QTRY_COMPARE(visibleNamed(p, u"processRow"_qs).size(), 6);
         const QList<QQuickItem *> rows = visibleNamed(p, u"processRow"_qs);
@@ -150,14 +143,8 @@ private slots:
         QCOMPARE(colorOf(child(rows[0], u"cpu"_qs)), loadColor(2.5).rgb());
         QCOMPARE(colorOf(child(rows[1], u"cpu"_qs)), loadColor(1.0).rgb());
         QCOMPARE(colorOf(child(rows[2], u"cpu"_qs)), loadColor(0.2).rgb());
-    }
 
-    void volumeFigures()
-    {
-        Panel p;
-        p.samplers->disk.volumes = {VolumeInfo{u"data"_qs, u"/data"_qs, 500e9, 125e9},
-                                    VolumeInfo{u"empty"_qs, u"/empty"_qs, 0, 0}};
-        p.load();
+        // The 500 GB volume at 75 %, and one of no capacity.
         const QList<QQuickItem *> volumes = visibleNamed(p, u"volume"_qs);
         QCOMPARE(volumes.size(), 2);
         QQuickItem *bar = child(volumes[0], u"bar"_qs);
@@ -208,18 +195,6 @@ private slots:
         }
     }
 
-    void gpuCardWithoutUsage()
-    {
-        Panel p;
-        p.samplers->sensors.gpuTemp = 0;
-        p.samplers->gpu = GPUSample{true, 0.62, 0};
-        p.load();
-        QQuickItem *card = p.find(u"gpuCard"_qs);
-        QVERIFY(shown(card));
-        QCOMPARE(p.text(child(card, u"value"_qs)), u"62%"_qs);
-        QVERIFY(!shown(child(card, u"temp"_qs)));
-    }
-
     void batteryColoursAndStatus()
     {
         Panel p;
@@ -253,6 +228,8 @@ private slots:
         Panel p;
         p.samplers->cpu.perCore = {};
         p.samplers->memory.swapTotal = 0;
+        p.samplers->sensors.gpuTemp = 0;
+        p.samplers->gpu = GPUSample{true, 0.62, 0};
         p.load();
         QVERIFY(!shown(p.find(u"coresLabel"_qs)));
         QVERIFY(!shown(p.find(u"coreBars"_qs)));
@@ -263,6 +240,11 @@ private slots:
         QCOMPARE(halves.size(), 2);
         QVERIFY(shown(halves[0]) && halves[0]->x() == 0);
         QVERIFY(!shown(halves[1]));
+        // A GPU without a temperature: its usage alone.
+        QQuickItem *card = p.find(u"gpuCard"_qs);
+        QVERIFY(shown(card));
+        QCOMPARE(p.text(child(card, u"value"_qs)), u"62%"_qs);
+        QVERIFY(!shown(child(card, u"temp"_qs)));
     }
 
     // Absurd readings draw without warnings, overlaps or a crash.

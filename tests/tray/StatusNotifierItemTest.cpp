@@ -123,8 +123,7 @@ private slots:
     void registersWithTheWatcherAndAgainWhenItReturns()
     {
         Rig rig;
-        QVERIFY(rig.service().startsWith(QStringLiteral("org.kde.StatusNotifierItem-")));
-        QVERIFY(rig.service().endsWith(QStringLiteral("-1")));
+        QCOMPARE(rig.service(), u"org.kde.StatusNotifierItem-%1-1"_qs.arg(QCoreApplication::applicationPid()));
 
         // Started before any watcher: it waits for one.
         QVERIFY(rig.item->start());
@@ -140,22 +139,15 @@ private slots:
         QCOMPARE(first->itemProperty(rig.service(), u"ItemIsMenu"_qs).toBool(), false);
         QCOMPARE(first->itemProperty(rig.service(), u"Menu"_qs).value<QDBusObjectPath>().path(), u"/MenuBar"_qs);
 
-        // The shell restarts: the watcher goes away and a new one comes.
+        // The shell restarts: the watcher goes away and a new one comes,
+        // this time without a host (a watcher alone draws no item; a host
+        // that turns up later is the desktop test's case).
         first.reset();
         QTRY_VERIFY(!rig.item->watcherPresent());
         QVERIFY(!rig.item->hostPresent());
-        FakeWatcher second;
+        FakeWatcher second(false);
         QVERIFY(second.owned());
         QTRY_COMPARE(second.registrations, QStringList{rig.registration()});
-        QTRY_VERIFY(rig.item->hostPresent());
-    }
-
-    void watcherWithoutHostIsNoHost()
-    {
-        Rig rig;
-        FakeWatcher watcher(false);
-        QVERIFY(rig.item->start());
-        QTRY_COMPARE(watcher.registrations.size(), 1);
         QTest::qWait(50);
         QVERIFY(rig.item->watcherPresent());
         QVERIFY(!rig.item->hostPresent());
@@ -199,8 +191,6 @@ private slots:
 
         // Back to the mood: the reaction is cleared by now, the mood shows.
         rig.monitor->setReaction(std::nullopt);
-        QTest::qWait(100);
-        QCOMPARE(w.labels.size(), 4); // the numbers did not change
         rig.monitor->offerMood(Moods::allChill());
         AppSettings::shared().setMoodEnabled(true);
         QTRY_COMPARE(w.labels.size(), 5);
@@ -316,7 +306,7 @@ private slots:
         QCOMPARE(w.newTitles, 3);
     }
 
-    void layoutStartsWithOpenPanelAndFollowsTheLanguage()
+    void menuStartsWithOpenPanelFollowsTheLanguageAndAnswersClicks()
     {
         Rig rig;
         FakeWatcher w;
@@ -327,8 +317,6 @@ private slots:
         QCOMPARE(root.id, 0);
         QCOMPARE(root.properties.value(u"children-display"_qs).toString(), u"submenu"_qs);
         QCOMPARE(menuLabels(root), (QStringList{u"Open panel"_qs, u"Preferences…"_qs, u"--"_qs, u"Quit"_qs}));
-        for (const MenuLayoutNode &child : root.children)
-            QVERIFY(child.children.isEmpty());
 
         Localizer::shared().setLanguage(AppLanguage::zhHans);
         QTRY_COMPARE(w.layoutRevisions.size(), 1);
@@ -341,13 +329,8 @@ private slots:
         // Only the root's own node when no depth is asked for.
         const QDBusMessage shallow = w.callMenu(rig.service(), u"GetLayout"_qs, {0, 0, QStringList{u"label"_qs}});
         QCOMPARE(qdbus_cast<MenuLayoutNode>(shallow.arguments().at(1).value<QDBusArgument>()).children.size(), 0);
-    }
 
-    void clicksComeBackAsActionsAndUnknownItemsAreErrors()
-    {
-        Rig rig;
-        FakeWatcher w;
-        QVERIFY(rig.startWith(w));
+        // Clicks come back as actions; unknown entries are errors.
         QSignalSpy triggered(&rig.item->menu(), &DBusMenu::triggered);
 
         QDBusMessage reply = w.menuEvent(rig.service(), 1);
