@@ -100,8 +100,6 @@ private slots:
         ManualScheduler scheduler;
         DesktopApp app(options(scheduler));
         QTRY_VERIFY(app.item().hostPresent());
-        QTRY_COMPARE(watcher.registrations,
-                     QStringList{QDBusConnection::sessionBus().baseService() + u"/StatusNotifierItem"_qs});
         QSignalSpy visible(&app.monitor(), &SystemMonitor::panelVisibleChanged);
         // Nothing of Qt Quick is loaded until the panel first opens.
         QVERIFY(!app.quickFaceLoaded());
