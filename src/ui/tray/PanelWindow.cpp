@@ -185,6 +185,11 @@ void PanelWindow::show(Style style)
     setOpen(true);
     m_window->show();
     m_window->requestActivate();
+    // A window hidden while it had the focus can still count as active when
+    // it shows again, and then no change of focus announces it: losing the
+    // focus later must close it all the same.
+    if (m_window->isActive())
+        m_wasActive = true;
 }
 
 void PanelWindow::fitToContent()
