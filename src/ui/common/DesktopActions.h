@@ -13,12 +13,9 @@ public:
     Q_INVOKABLE void openPreferences() { emit preferencesRequested(); }
     Q_INVOKABLE void openSystemMonitor() { emit systemMonitorRequested(); }
     Q_INVOKABLE void quit() { emit quitRequested(); }
-    // The panel asks to be closed (Escape).
-    Q_INVOKABLE void closePanel() { emit panelCloseRequested(); }
 
 signals:
     void preferencesRequested();
     void systemMonitorRequested();
     void quitRequested();
-    void panelCloseRequested();
 };

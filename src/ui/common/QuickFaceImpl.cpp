@@ -28,7 +28,6 @@ public:
         connect(m_actions, &DesktopActions::preferencesRequested, this, &QuickFace::preferencesRequested);
         connect(m_actions, &DesktopActions::systemMonitorRequested, this, &QuickFace::systemMonitorRequested);
         connect(m_actions, &DesktopActions::quitRequested, this, &QuickFace::quitRequested);
-        connect(m_actions, &DesktopActions::panelCloseRequested, m_panel, &PanelWindow::close);
         connect(m_panel, &PanelWindow::openChanged, this, &QuickFace::panelOpenChanged);
         connect(m_panel, &PanelWindow::windowClosedByUser, this, &QuickFace::panelWindowClosedByUser);
     }

@@ -17,8 +17,6 @@ Item {
     implicitHeight: layout.implicitHeight
     focus: true
 
-    Keys.onEscapePressed: app.closePanel()
-
     Rectangle {
         anchors.fill: parent
         color: Theme.window
